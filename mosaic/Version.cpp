@@ -1,0 +1,3 @@
+#include "Version.h"
+
+const char* mosaicDllVersionStr() { return MOSAIC_VERSION; }

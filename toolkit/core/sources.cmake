@@ -1,0 +1,9 @@
+list(APPEND GLOBKIT_SOURCES
+  core/Colour.cpp
+  core/ColourData.cpp
+  core/Event.cpp
+  core/IdStamp.cpp
+  core/Palette.cpp
+  core/UIString.cpp
+  core/Utf8.cpp
+)

@@ -1,0 +1,4 @@
+list(APPEND GLOBKIT_SOURCES
+  platform/configb.cpp
+  platform/ResourceStrings.cpp
+)
