@@ -1,0 +1,63 @@
+#include "../glob/Blocks.h"
+
+#include "glob/GlobManager.h"
+#include "glob/UifStd.h"
+
+using TestKit::Owned;
+
+namespace {
+class PanelPainting : public ::testing::Test {
+protected:
+    void TearDown() override { TestKit::reset(); }
+};
+
+// How many pixels of a box differ from a colour: text drawn there shows up as such pixels.
+int pixelsNotOf(const Glob* g, const BoxInt& b, std::uint32_t colour) {
+    int n = 0;
+    for (int y = b.y1; y < b.y2; ++y)
+        for (int x = b.x1; x < b.x2; ++x) n += TestKit::globPixel(g, x, y) != colour;
+    return n;
+}
+} // namespace
+
+TEST_F(PanelPainting, BorderTitleBarAndTitleTextLandWhereTheyShould) {
+    Owned<StandardPanel> p(makeRootPanel(200, 120, {50, 50}));
+    p->setBorder(Border(Border::kRaised, 3, 15));
+    p->setTitle(UIString(L"Colour"));
+    p->redraw();
+    const Palette& pal = p->getPalette();
+    int titleH = UifStd::instance().getTitleHeight();
+
+    std::uint32_t light = TestKit::argb(pal.window(kShadeLightest)), dark = TestKit::argb(pal.window(kShadeDarkest));
+    EXPECT_TRUE(TestKit::pixelNear(p.get(), 0, 60, light)) << "left edge is lit";
+    EXPECT_TRUE(TestKit::pixelNear(p.get(), 100, 119, light)) << "top edge is lit";
+    EXPECT_TRUE(TestKit::pixelNear(p.get(), 199, 60, dark)) << "right edge is shaded";
+    EXPECT_TRUE(TestKit::pixelNear(p.get(), 100, 0, dark)) << "bottom edge is shaded";
+    EXPECT_TRUE(TestKit::pixelNear(p.get(), 3, 3, TestKit::argb(pal.window())));
+
+    BoxInt bar = p->titleBarBox();
+    EXPECT_EQ(bar, BoxInt(3, 117 - titleH, 197, 117));
+    std::uint32_t barColour = TestKit::argb(pal.window(kShadeDark));
+    EXPECT_TRUE(TestKit::pixelNear(p.get(), 190, bar.y1 + titleH / 2, barColour));
+    EXPECT_TRUE(TestKit::pixelNear(p.get(), 100, bar.y1, dark)) << "separator under the title";
+    EXPECT_GT(pixelsNotOf(p.get(), BoxInt(bar.x1, bar.y1 + 1, bar.x1 + 80, bar.y2), barColour), 20) << "the title's text";
+    EXPECT_EQ(pixelsNotOf(p.get(), BoxInt(120, bar.y1 + 1, 190, bar.y2), barColour), 0) << "nothing right of a short title";
+
+    TestKit::pump();
+    EXPECT_TRUE(TestKit::screenPixelNear(50 + 100, 50 + 119, light));
+}
+
+TEST_F(PanelPainting, ChildrenPaintInsideTheirParentOnly) {
+    Owned<StandardPanel> p(makeRootPanel(100, 100, {0, 0}, Colour(0, 0, 0)));
+    auto* inner = new StandardPanel(40, 40);
+    inner->setCol(Colour(0, 0, 1), false);
+    p->addChild(inner, Glob::BottomLeft(10, 10));
+    Block::InitArgs a(100, 100, Colour(1, 0, 0));
+    auto* big = new Block(a);
+    inner->addChild(big, Glob::BottomLeft(20, 20));
+    p->redraw();
+    EXPECT_TRUE(TestKit::pixelNear(p.get(), 12, 12, 0xFF0000FF));
+    EXPECT_TRUE(TestKit::pixelNear(p.get(), 49, 49, 0xFFFF0000));
+    EXPECT_TRUE(TestKit::pixelNear(p.get(), 50, 49, 0xFF000000)) << "the child is clipped to its parent";
+    EXPECT_TRUE(TestKit::pixelNear(p.get(), 60, 60, 0xFF000000));
+}

@@ -1,0 +1,54 @@
+#include "draw/Canvas.h"
+#include "draw/CanvasRenderer.h"
+#include "draw/FontDesc.h"
+#include "glob/UifStd.h"
+
+#include <gtest/gtest.h>
+
+TEST(Text, MeasuringGrowsWithTheTextAndTheFont) {
+    Glib::FontDesc f = Glib::getDefaultFont();
+    XY<int> one = Glib::measureText(L"Cut", f);
+    XY<int> two = Glib::measureText(L"Cut and paste", f);
+    EXPECT_GT(one.x, 0);
+    EXPECT_GT(two.x, one.x);
+    EXPECT_EQ(one.y, two.y);
+    EXPECT_GT(Glib::measureText(L"Cut", f.withSize(f.size * 2)).x, one.x);
+    EXPECT_GE(Glib::measureText(L"", f).y, Glib::fontHeight(f)) << "an empty text is still a line high";
+    EXPECT_EQ(UifStd::instance().measure(UIString(L"Cut")), one);
+}
+
+TEST(Text, AMissingFontFallsBackToAnInstalledFace) {
+    Glib::FontDesc missing("No Such Face 3000", 14);
+    EXPECT_FALSE(Glib::isFontAvailable(missing.name));
+    EXPECT_GT(Glib::measureText(L"Still visible", missing).x, 0);
+    EXPECT_TRUE(Glib::isFontAvailable("DejaVu Sans"));
+    auto fonts = Glib::getAvailableFonts();
+    EXPECT_TRUE(std::is_sorted(fonts.begin(), fonts.end()));
+}
+
+TEST(Text, DrawnTextStaysInItsBoxAndFollowsAlignment) {
+    Canvas c(200, 40);
+    CanvasRenderer r(&c);
+    r.fill(Colour(0, 0, 0));
+    auto inkColumns = [&](int x1, int x2) {
+        int n = 0;
+        for (int x = x1; x < x2; ++x)
+            for (int y = 0; y < 40; ++y)
+                if (c.pixel(x, y) != 0xFF000000u) {
+                    ++n;
+                    break;
+                }
+        return n;
+    };
+    r.render(Glib::TextDescription(BoxInt(100, 10, 200, 30), L"Render", Glib::getDefaultFont(), Colour(1, 1, 1), Glib::kAlignRight));
+    EXPECT_EQ(inkColumns(0, 100), 0);
+    EXPECT_GT(inkColumns(150, 200), 10);
+    for (int x = 0; x < 200; ++x) {
+        EXPECT_EQ(c.pixel(x, 5), 0xFF000000u) << "below the box at " << x;
+        EXPECT_EQ(c.pixel(x, 35), 0xFF000000u) << "above the box at " << x;
+    }
+    // Text that does not look like UTF-16 or contains odd values is still drawn, not rejected.
+    wchar_t odd[] = {L'a', static_cast<wchar_t>(0xD800), L'b', 0};
+    r.render(Glib::TextDescription(BoxInt(0, 10, 100, 30), odd, Glib::getDefaultFont(), Colour(1, 1, 1)));
+    EXPECT_GT(inkColumns(0, 100), 3);
+}

@@ -1,0 +1,139 @@
+#include "Blocks.h"
+
+#include "glob/GlobManager.h"
+#include "glob/Messaging.h"
+
+#include <stdexcept>
+
+using TestKit::Owned;
+
+namespace {
+
+class GlobLifetime : public ::testing::Test {
+protected:
+    void TearDown() override { TestKit::reset(); }
+};
+
+// Asks for its own deletion from inside its message handler, and counts what it gets afterwards.
+class SelfDeleting : public StandardPanel {
+public:
+    explicit SelfDeleting(int* deaths) : StandardPanel(50, 50), deaths_(deaths) {}
+    ~SelfDeleting() override { ++*deaths_; }
+    int handleMessageEvent(const LightweightString<char>& m, Glob*) override {
+        if (m == "close") {
+            GlobManager::instance().requestDeletion(this);
+            GlobManager::instance().requestDeletion(this);
+            // Still alive inside its own handler.
+            aliveInHandler = is_good_glob_ptr(this);
+        }
+        ++handled;
+        return 1;
+    }
+    bool aliveInHandler = false;
+    int handled = 0;
+    int* deaths_;
+};
+
+GlobKindRegistration registerBlock("TestBlock", [](const GlobCreationInfo& info) -> Glob* {
+    Block::InitArgs a(info.width, info.height, Colour(0, 1, 0));
+    a.canvas = info.canvas;
+    return new Block(a);
+});
+GlobKindRegistration registerBroken("TestBroken", [](const GlobCreationInfo&) -> Glob* { throw std::runtime_error("no"); });
+
+} // namespace
+
+TEST_F(GlobLifetime, RequestDeletionWaitsForASafeMomentAndIsIdempotent) {
+    int deaths = 0;
+    auto* p = new SelfDeleting(&deaths);
+    GlobManager::instance().realize(p);
+    IdStamp stamp = p->stamp();
+    sendMessage("close", p);
+    sendMessage("after", p);
+    TestKit::pump();
+    EXPECT_EQ(deaths, 1);
+    EXPECT_FALSE(EventHandler::valid(p, stamp));
+    EXPECT_FALSE(is_good_glob_ptr(p));
+    EXPECT_FALSE(GlobManager::instance().isRealized(p));
+    // Asking again for a dead glob is harmless.
+    GlobManager::instance().requestDeletion(p);
+    TestKit::pump();
+    EXPECT_EQ(deaths, 1);
+}
+
+TEST_F(GlobLifetime, DeletingAParentTakesItsChildrenAndLeavesNoDanglingReferences) {
+    auto* root = makeRootPanel(100, 100);
+    Block::InitArgs a(10, 10, Colour(1, 0, 0));
+    Block* child = root->createWidget<Block>(a, Glob::BottomLeft(0, 0));
+    child->focusable = true;
+    set_kbd_focus(child);
+    ASSERT_EQ(get_kbd_focus(), child);
+    // Doomed twice over: itself, and through its parent, in one batch.
+    GlobManager::instance().requestDeletion(child);
+    GlobManager::instance().requestDeletion(root);
+    TestKit::pump();
+    EXPECT_FALSE(is_good_glob_ptr(child));
+    EXPECT_FALSE(is_good_glob_ptr(root));
+    EXPECT_EQ(get_kbd_focus(), nullptr);
+    EXPECT_TRUE(GlobManager::instance().roots().empty());
+}
+
+TEST_F(GlobLifetime, StampsTellAReusedAddressFromTheOriginal) {
+    Block::InitArgs a(10, 10, Colour(1, 0, 0));
+    Block* first = new Block(a);
+    IdStamp firstStamp = first->stamp();
+    EXPECT_TRUE(EventHandler::valid(first, firstStamp));
+    delete first;
+    EXPECT_FALSE(EventHandler::valid(first, firstStamp));
+    EXPECT_FALSE(is_good_glob_ptr(first));
+    // The allocator often hands the same address back: the stamp still differs.
+    Block* second = new Block(a);
+    EXPECT_FALSE(EventHandler::valid(second, firstStamp));
+    EXPECT_TRUE(EventHandler::valid(second, second->stamp()));
+    delete second;
+    EXPECT_FALSE(is_good_glob_ptr(nullptr));
+}
+
+TEST_F(GlobLifetime, CreateGlobByKindName) {
+    GlobCreationInfo info(30, 20);
+    info.type = "TestBlock";
+    Owned<Glob> g(GlobManager::instance().createGlob(info));
+    ASSERT_NE(g.get(), nullptr);
+    EXPECT_STREQ(g->idstring(), "Block");
+    EXPECT_EQ(g->size(), XY<int>(30, 20));
+    info.type = "NoSuchKind";
+    EXPECT_EQ(GlobManager::instance().createGlob(info), nullptr);
+    info.type = "TestBroken";
+    EXPECT_EQ(GlobManager::instance().createGlob(info), nullptr);
+    auto kinds = GlobManager::globKinds();
+    EXPECT_NE(std::find(kinds.begin(), kinds.end(), LightweightString<char>("TestBlock")), kinds.end());
+}
+
+TEST_F(GlobLifetime, FindByStampAndByName) {
+    auto* root = makeRootPanel(100, 100);
+    Block::InitArgs a(10, 10, Colour(1, 0, 0));
+    Block* child = root->createWidget<Block>(a, Glob::BottomLeft(0, 0));
+    child->setName("timecode");
+    EXPECT_EQ(GlobManager::instance().find(child->stamp()), child);
+    EXPECT_EQ(GlobManager::instance().find(LightweightString<char>("timecode")), child);
+    EXPECT_EQ(GlobManager::instance().find(LightweightString<char>("StandardPanel")), root);
+    EXPECT_EQ(GlobManager::instance().find(LightweightString<char>("")), nullptr);
+    EXPECT_EQ(GlobManager::instance().find(IdStamp(1, 2, 3)), nullptr);
+}
+
+TEST_F(GlobLifetime, AddingAGlobToItsOwnDescendantIsRefused) {
+    Owned<StandardPanel> outer(makeRootPanel(100, 100));
+    auto* inner = new StandardPanel(50, 50);
+    outer->addChild(inner, Glob::BottomLeft(0, 0));
+    Glob* outerGlob = outer.get();
+    inner->addChild(outerGlob, Glob::BottomLeft(0, 0));
+    EXPECT_EQ(outer->parent(), nullptr);
+    EXPECT_EQ(inner->numChildren(), 0u);
+    EXPECT_EQ(inner->addChild(inner, Glob::BottomLeft(0, 0)), inner);
+    EXPECT_EQ(inner->numChildren(), 0u);
+    // A top-level glob added to a parent leaves the screen and shares the parent's canvas.
+    auto* other = makeRootPanel(20, 20);
+    inner->addChild(other, Glob::BottomLeft(0, 0));
+    EXPECT_FALSE(GlobManager::instance().isRealized(other));
+    EXPECT_EQ(other->canvas(), outer->canvas());
+}

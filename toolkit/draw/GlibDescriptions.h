@@ -1,0 +1,63 @@
+#pragma once
+
+#include "FontDesc.h"
+#include "core/Box.h"
+#include "core/Colour.h"
+
+// Descriptions of the drawing primitives, in the coordinates of the glob being
+// drawn (bottom-up). CanvasRenderer turns them into pixels.
+namespace Glib {
+
+struct RectDescription {
+    BoxInt box;
+    Colour fill;
+    bool filled = true;
+    Colour outline;
+    double outlineWidth = 0.0; // 0: no outline
+    double cornerRadius = 0.0;
+
+    RectDescription() = default;
+    RectDescription(const BoxInt& b, const Colour& c) : box(b), fill(c) {}
+};
+
+// A line between pixel centres: (0, 0) to (9, 0) lights pixels 0..9 of row 0.
+struct LineDescription {
+    XY<double> from, to;
+    Colour colour;
+    double width = 1.0;
+
+    LineDescription() = default;
+    LineDescription(XY<double> a, XY<double> b, const Colour& c, double w = 1.0) : from(a), to(b), colour(c), width(w) {}
+};
+
+struct EllipseDescription {
+    XY<double> centre;
+    XY<double> radii;
+    Colour colour;
+    bool filled = true;
+    double lineWidth = 1.0;
+
+    EllipseDescription() = default;
+    EllipseDescription(XY<double> c, XY<double> r, const Colour& col, bool fill = true) : centre(c), radii(r), colour(col), filled(fill) {}
+};
+
+enum eHorizontalAlign { kAlignLeft = 0, kAlignCentreH = 1, kAlignRight = 2 };
+
+// One line of text inside a box: aligned horizontally as `align` says, centred
+// vertically, cut off at the box's edges.
+struct TextDescription {
+    BoxInt box;
+    LightweightString<wchar_t> text;
+    FontDesc font;
+    Colour colour;
+    eHorizontalAlign align = kAlignLeft;
+    // Shorten text that does not fit with an ellipsis instead of cutting it.
+    bool ellipsize = false;
+
+    TextDescription() = default;
+    TextDescription(const BoxInt& b, const LightweightString<wchar_t>& t, const FontDesc& f, const Colour& c,
+                    eHorizontalAlign a = kAlignLeft)
+        : box(b), text(t), font(f), colour(c), align(a) {}
+};
+
+} // namespace Glib

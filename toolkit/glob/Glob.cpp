@@ -1,0 +1,421 @@
+#include "Glob.h"
+
+#include "GlobManager.h"
+#include "Messaging.h"
+#include "draw/Canvas.h"
+#include "draw/CanvasRenderer.h"
+
+#include <algorithm>
+#include <mutex>
+#include <unordered_set>
+
+namespace {
+
+// Live globs by address, beside the handler registry, so that is_good_glob_ptr can
+// tell a glob from another kind of handler at a reused address.
+struct GlobSet {
+    std::mutex lock;
+    std::unordered_set<const Glob*> live;
+};
+GlobSet& globSet() {
+    static GlobSet* s = new GlobSet; // outlives globs destroyed during static destruction
+    return *s;
+}
+
+} // namespace
+
+Glob::Glob(const GlobCreationInfo& info)
+    : Drawable(this), canvas_(info.canvas), palette_(info.palette), w_(std::max(0, info.width)), h_(std::max(0, info.height)) {
+    if (!canvas_) {
+        ownCanvas_ = std::make_unique<Canvas>(w_, h_);
+        canvas_ = ownCanvas_.get();
+    }
+    GlobSet& s = globSet();
+    std::lock_guard<std::mutex> g(s.lock);
+    s.live.insert(this);
+}
+
+Glob::~Glob() {
+    dying_ = true;
+    {
+        GlobSet& s = globSet();
+        std::lock_guard<std::mutex> g(s.lock);
+        s.live.erase(this);
+    }
+    // Children first, youngest first, so that relative positions never refer to the dead.
+    while (!children_.empty()) {
+        Glob* child = children_.back().child;
+        children_.pop_back();
+        child->parent_ = nullptr;
+        delete child;
+    }
+    if (parent_ && !parent_->dying_) parent_->detachChild(this);
+    GlobManager::instance().forgetGlob(this);
+}
+
+bool Glob::isLiveGlob(const Glob* g) {
+    if (!g) return false;
+    GlobSet& s = globSet();
+    std::lock_guard<std::mutex> lock(s.lock);
+    return s.live.count(g) != 0;
+}
+
+// ---- children ---------------------------------------------------------------
+
+Glob* Glob::addChild(Glob* child, const WidgetPosition& position, WidgetSurround surround) {
+    if (!child || child == this || isParentedTo(this, child)) return child;
+    if (child->parent_) child->parent_->detachChild(child);
+    GlobManager::instance().forgetRoot(child);
+    WidgetDetails d;
+    d.child = child;
+    d.position = position;
+    d.surround = surround;
+    if (position.origin == kSiblingRelative) {
+        d.sibling = position.relative.sibling;
+        if (!d.sibling && !children_.empty()) d.sibling = children_.back().child;
+        // A sibling that is not a child of this glob cannot place anything here.
+        if (d.sibling && d.sibling->parent_ != this) d.sibling = nullptr;
+    }
+    child->parent_ = this;
+    child->adoptCanvas(canvas_);
+    children_.push_back(d);
+    placeChild(children_.size() - 1);
+    handleWidgetAdded(d);
+    return child;
+}
+
+Glob* Glob::addWidget(Glob* child, int x, int y, eCoordinateOrigin origin, WidgetSurround surround, Glob* sibling) {
+    WidgetPosition p(origin, {x, y});
+    if (origin == kSiblingRelative) p.relative.sibling = sibling;
+    return addChild(child, p, surround);
+}
+
+Glob* Glob::addWidgetRelative(Glob* child, Glob* sibling, int gap, eWidgetRelativity relativity, WidgetSurround surround,
+                              eWidgetAlignment alignment) {
+    return addChild(child, rel(relativity, gap, sibling, alignment), surround);
+}
+
+void Glob::setWidgetRelativity(Glob* child, const SiblingRelativePosition& relative) {
+    WidgetDetails* d = detailsOf(child);
+    if (!d) return;
+    d->position = WidgetPosition(relative);
+    d->sibling = relative.sibling && relative.sibling->parent_ == this ? relative.sibling : nullptr;
+    calcAbsoluteWidgetPositions();
+}
+
+void Glob::setWidgetPos(Glob* child, const WidgetPosition& position) {
+    WidgetDetails* d = detailsOf(child);
+    if (!d) return;
+    d->position = position;
+    if (position.origin == kSiblingRelative)
+        d->sibling = position.relative.sibling && position.relative.sibling->parent_ == this ? position.relative.sibling : nullptr;
+    calcAbsoluteWidgetPositions();
+}
+
+WidgetDetails Glob::getWidget(Glob* child) const {
+    for (const WidgetDetails& d : children_)
+        if (d.child == child) return d;
+    return {};
+}
+
+WidgetDetails Glob::getWidget(unsigned short index) const { return index < children_.size() ? children_[index] : WidgetDetails(); }
+
+void Glob::setWidgetDetails(const WidgetDetails& details) {
+    WidgetDetails* d = detailsOf(details.child);
+    if (!d) return;
+    Glob* sibling = details.sibling && details.sibling->parent_ == this && details.sibling != details.child ? details.sibling : nullptr;
+    *d = details;
+    d->sibling = sibling;
+    calcAbsoluteWidgetPositions();
+}
+
+void Glob::removeWidget(Glob*& child, bool destroy) {
+    if (!child || child->parent_ != this) return;
+    detachChild(child);
+    child->parent_ = nullptr;
+    if (destroy) {
+        delete child;
+        child = nullptr;
+    }
+}
+
+void Glob::detachChild(Glob* child) {
+    auto it = std::find_if(children_.begin(), children_.end(), [child](const WidgetDetails& d) { return d.child == child; });
+    if (it == children_.end()) return;
+    // Whoever hung from the leaving child now hangs from what it hung from.
+    Glob* inherited = it->sibling;
+    children_.erase(it);
+    for (WidgetDetails& d : children_)
+        if (d.sibling == child) d.sibling = inherited;
+    if (!dying_) calcAbsoluteWidgetPositions();
+}
+
+std::vector<Glob*> Glob::getChildren() const {
+    std::vector<Glob*> out;
+    out.reserve(children_.size());
+    for (const WidgetDetails& d : children_) out.push_back(d.child);
+    return out;
+}
+
+WidgetDetails* Glob::detailsOf(const Glob* child) {
+    for (WidgetDetails& d : children_)
+        if (d.child == child) return &d;
+    return nullptr;
+}
+
+void Glob::setLogicalParent(Glob* g) {
+    logicalParentPtr_ = g;
+    logicalParent_ = g ? g->stamp() : IdStamp();
+}
+
+Glob* Glob::logicalParent() const {
+    if (logicalParentPtr_ && EventHandler::valid(logicalParentPtr_, logicalParent_)) return logicalParentPtr_;
+    return parent_;
+}
+
+void Glob::placeChild(std::size_t index) {
+    WidgetDetails& d = children_[index];
+    const BoxInt* sibling = nullptr;
+    BoxInt siblingBox;
+    if (d.position.origin == kSiblingRelative && d.sibling) {
+        siblingBox = d.sibling->box();
+        sibling = &siblingBox;
+    }
+    BoxInt b = d.position.resolve(d.child->size(), size(), getUserArea(), sibling);
+    d.child->x_ = b.x1;
+    d.child->y_ = b.y1;
+}
+
+void Glob::calcAbsoluteWidgetPositions() {
+    // Children are placed in the order they were added, so a sibling is always placed
+    // before whoever hangs from it.
+    for (std::size_t i = 0; i < children_.size(); ++i) placeChild(i);
+}
+
+void Glob::adoptCanvas(Canvas* c) {
+    if (canvas_ != c) {
+        canvas_ = c;
+        ownCanvas_.reset();
+    }
+    for (WidgetDetails& d : children_) d.child->adoptCanvas(c);
+}
+
+// ---- geometry ---------------------------------------------------------------
+
+XY<int> Glob::canvasPos() const {
+    XY<int> p;
+    for (const Glob* g = this; g->parent_; g = g->parent_) p = p + XY<int>(g->x_, g->y_);
+    return p;
+}
+
+XY<int> Glob::screenPos() const {
+    const Glob* root = this;
+    while (root->parent_) root = root->parent_;
+    return canvasPos() + XY<int>(root->x_, root->y_);
+}
+
+XY<int> Glob::screenXYToGlobXY(const XY<int>& p) const { return p - screenPos(); }
+
+void Glob::resize(double width, double height) {
+    int w = std::max(minSize_.x, std::max(0, static_cast<int>(width)));
+    int h = std::max(minSize_.y, std::max(0, static_cast<int>(height)));
+    if (w == w_ && h == h_) return;
+    XY<int> old = size();
+    w_ = w;
+    h_ = h;
+    if (ownCanvas_) ownCanvas_->resize(w_, h_);
+    calcAbsoluteWidgetPositions();
+    if (parent_) parent_->handleChildResize(this, old);
+}
+
+void Glob::handleChildResize(const Glob*, const XY<int>&) { calcAbsoluteWidgetPositions(); }
+
+void Glob::reshapeAndDraw(const XY<int>& s) {
+    constexpr int kKeep = -1234;
+    resize(s.x == kKeep ? w_ : s.x, s.y == kKeep ? h_ : s.y);
+    redraw();
+}
+
+void Glob::setMinSize(unsigned short w, unsigned short h) {
+    minSize_ = {w, h};
+    if (w_ < w || h_ < h) resize(std::max<int>(w_, w), std::max<int>(h_, h));
+}
+
+void Glob::setupRootPos(const XY<int>& p) {
+    if (parent_) return;
+    x_ = p.x;
+    y_ = p.y;
+    GlobManager::instance().screenChanged();
+}
+
+void Glob::setupRootPos(Canvas*, const XY<int>& p) { setupRootPos(p); }
+
+// ---- look and state ---------------------------------------------------------
+
+void Glob::setPalette(const Palette& p) { palette_ = p; }
+
+int Glob::theme() const { return palette_.isDark() ? 0 : 1; }
+
+void Glob::setCol(const Colour& c, bool redrawNow) {
+    palette_.setColour(Palette::kWindow, c);
+    if (redrawNow) redraw();
+}
+
+bool Glob::isShowing() const {
+    for (const Glob* g = this; g; g = g->parent_)
+        if (!g->visible_) return false;
+    return parent_ || GlobManager::instance().isRealized(getRootParent(const_cast<Glob*>(this)));
+}
+
+void Glob::setVisible(bool v) {
+    if (v == visible_) return;
+    visible_ = v;
+    if (parent_) {
+        // What was under a hidden child shows again.
+        parent_->redraw();
+    } else {
+        GlobManager::instance().screenChanged();
+        if (v) redraw();
+    }
+}
+
+void Glob::setActive(bool a, eRedrawFlag flag) {
+    active_ = a;
+    if (flag == kRedraw) redraw();
+}
+
+void Glob::setContextString(const UIString& tooltip, const UIString& extra) {
+    tooltip_ = tooltip;
+    contextExtra_ = extra;
+}
+
+void Glob::handleUIChange(unsigned int what) {
+    for (WidgetDetails& d : children_) d.child->handleUIChange(what);
+}
+
+// ---- painting ---------------------------------------------------------------
+
+bool Glob::canDraw() const { return canvas_ && visible_ && w_ > 0 && h_ > 0; }
+
+void Glob::paintNow() {
+    if (!canDraw()) return;
+    for (const Glob* g = parent_; g; g = g->parent_)
+        if (!g->visible_) return;
+    // A child paints inside every ancestor's box.
+    BoxInt clip(canvasPos(), size());
+    for (const Glob* g = parent_; g; g = g->parent_) clip.clip(BoxInt(g->canvasPos(), g->size()));
+    canvas_->pushOrigin({0, 0}, clip);
+    draw();
+    canvas_->popOrigin();
+    GlobManager::instance().screenChanged();
+}
+
+void Glob::draw() {
+    if (!canDraw()) return;
+    canvas_->pushOrigin(canvasPos(), BoxInt(canvasPos(), size()));
+    drawBackground();
+    drawWidgets();
+    drawBorder();
+    canvas_->popOrigin();
+}
+
+void Glob::drawBackground() { CanvasRenderer(canvas_).fill(palette_.window()); }
+
+void Glob::drawWidgets() {
+    for (WidgetDetails& d : children_)
+        if (d.child->isVisible()) d.child->draw();
+}
+
+// ---- events -----------------------------------------------------------------
+
+bool Glob::claimKbdFocus() {
+    if (!acceptsKbdFocus() || !active_) return false;
+    set_kbd_focus(this);
+    return get_kbd_focus() == this;
+}
+
+void Glob::relinquishKbdFocus(Glob* next) {
+    if (hasKbdFocus()) set_kbd_focus(next);
+}
+
+bool Glob::hasKbdFocus() const { return get_kbd_focus() == this; }
+
+void Glob::setInterest(int bits) {
+    interest_ |= bits;
+    if (bits & 4096) GlobManager::instance().setTimerInterest(this, true);
+}
+
+void Glob::clearInterest(int bits) {
+    interest_ &= ~bits;
+    if (bits & 4096) GlobManager::instance().setTimerInterest(this, false);
+}
+
+void Glob::popToTop(bool) { GlobManager::instance().raise(getRootParent(this)); }
+
+Glob* Glob::findGlobAt(const XY<int>& p) {
+    // Younger children lie on top of older ones.
+    for (auto it = children_.rbegin(); it != children_.rend(); ++it) {
+        Glob* c = it->child;
+        if (!c->visible_ || !c->box().contains(p)) continue;
+        Glob* hit = c->findGlobAt(p - XY<int>(c->x_, c->y_));
+        if (hit != c || !c->lightweight_) return hit;
+    }
+    return this;
+}
+
+void Glob::sendMsg(Glob* target, const char* message) { sendMessage(message, target, this); }
+
+void Glob::callMsg(Glob* target, const char* message) { callMessage(message, target, this); }
+
+// ---- visitors ---------------------------------------------------------------
+
+void Glob::visitChildren(const std::function<bool(Glob*)>& f) const {
+    for (const WidgetDetails& d : children_)
+        if (!f(d.child)) return;
+}
+
+bool Glob::visitSubtree(const std::function<bool(Glob*)>& f) {
+    if (!f(this)) return false;
+    for (const WidgetDetails& d : children_)
+        if (!d.child->visitSubtree(f)) return false;
+    return true;
+}
+
+void Glob::visitAncestors(const std::function<bool(Glob*)>& f) const {
+    for (Glob* g = parent_; g; g = g->parent_)
+        if (!f(g)) return;
+}
+
+// ---- free functions ---------------------------------------------------------
+
+bool is_good_glob_ptr(const Glob* g) { return Glob::isLiveGlob(g); }
+
+Glob* getRootParent(Glob* g) {
+    if (!g) return nullptr;
+    while (g->parent()) g = g->parent();
+    return g;
+}
+
+bool isParentedTo(const Glob* g, const Glob* ancestor) {
+    if (!g || !ancestor) return false;
+    for (const Glob* p = g->parent(); p; p = p->parent())
+        if (p == ancestor) return true;
+    return false;
+}
+
+Glob* canvas_to_glob(Canvas* c) {
+    Glob* found = nullptr;
+    walk_all_root_globs([&](Glob* g) {
+        if (g->canvas() == c) found = g;
+    });
+    return found;
+}
+
+void walk_all_root_globs(const std::function<void(Glob*)>& f) {
+    for (Glob* g : GlobManager::instance().roots()) f(g);
+}
+
+Glob* event_to_sender_glob(const Event& e) {
+    if (!EventHandler::valid(e.sender(), e.senderStamp())) return nullptr;
+    return dynamic_cast<Glob*>(e.sender());
+}

@@ -1,0 +1,114 @@
+#pragma once
+
+#include "MessageQueue.h"
+#include "WidgetPosition.h"
+#include "core/GlobCreationInfo.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+class Canvas;
+class Glob;
+class InputDispatcher;
+class Screen;
+
+// Keeps the top-level globs and runs the user-interface thread's work: it
+// realizes panels onto the screen in z-order, delivers posted messages, deletes
+// globs at safe moments, ticks timers, routes input, and makes globs by kind name.
+class GlobManager {
+public:
+    using Maker = std::function<Glob*(const GlobCreationInfo&)>;
+
+    static GlobManager& instance();
+
+    // Kinds of glob made by name: each kind registers itself where it is defined.
+    static void registerGlobKind(const LightweightString<char>& type, Maker maker);
+    static std::vector<LightweightString<char>> globKinds();
+    // A new glob of the kind `info.type`, or null when there is no such kind or it failed.
+    Glob* createGlob(const GlobCreationInfo& info) const;
+
+    // Puts a finished top-level glob on the screen, on top, and paints it.
+    void realize(Glob* g);
+    bool isRealized(const Glob* g) const;
+    // Deletes the glob at the next safe moment: after the current event, never
+    // inside one of its own handlers. Asking twice, or for a dead glob, is harmless.
+    void requestDeletion(Glob* g);
+    std::size_t pendingDeletions() const { return doomed_.size(); }
+
+    Glob* find(const IdStamp& stamp) const;
+    // The first glob, in z-order from the top, whose name (or, failing that, idstring) matches.
+    Glob* find(const LightweightString<char>& name) const;
+
+    // Modal globs: while one is up, input goes only to it and its tree (and to
+    // globs raised above it, such as its menus).
+    bool isModal(Glob* g) const;
+    void addModalGlob(Glob* g, Glob* context = nullptr);
+    void removeModalGlob(Glob* g);
+    Glob* topModal() const;
+
+    // Where a new top-level glob of the given size goes: a position asked for, or
+    // the next place of a cascade from the top left, kept on the screen.
+    XY<int> getPosForGlob(const GlobCreationInfo& info, const WidgetPosition& pos);
+    XY<int> getSafePosForGlob(Canvas* c, const XY<int>& pos, const XY<int>& size) const;
+    XY<int> calcPosForGlob(const XY<int>& size, const SiblingRelativePosition& rel, const BoxInt& area) const;
+    void redisplay(Glob* g, const XY<int>& pos, eCoordinateOrigin origin, bool raise);
+
+    const std::vector<Glob*>& roots() const { return roots_; }
+    void raise(Glob* root);
+    // Called by Glob: forget every reference to a dying glob.
+    void forgetGlob(Glob* g);
+    void forgetRoot(Glob* g);
+
+    void setKbdFocus(Glob* g);
+    Glob* kbdFocus() const;
+
+    void setTimerInterest(Glob* g, bool on);
+    // Sends a timer event to every glob that asked for ticks.
+    void tickTimers();
+    int timerPeriodMs() const { return timerPeriodMs_; }
+
+    // Messaging: any thread may post; processPending runs on the user-interface thread.
+    void post(const Event& e, EventHandler* target);
+    // Delivers waiting messages, deletes doomed globs and carries out pending
+    // redraws. Returns true when it did anything.
+    bool processPending();
+    // Loops processPending until nothing is left (bounded, so a glob that posts to
+    // itself forever cannot hang the caller).
+    void runUntilIdle(int maxRounds = 1000);
+    MessageQueue& queue() { return queue_; }
+
+    // Input from the backend or a test, in screen coordinates.
+    void dispatch(const Event& e);
+    InputDispatcher& input() { return *input_; }
+
+    Screen& screen();
+    // Marks the screen as needing composition; compose() does it when marked.
+    void screenChanged() { screenDirty_ = true; }
+    bool compose();
+    bool screenDirty() const { return screenDirty_; }
+
+private:
+    GlobManager();
+    ~GlobManager();
+    void deleteDoomed();
+    std::size_t deliverMessages();
+
+    std::vector<Glob*> roots_;
+    std::vector<std::pair<Glob*, IdStamp>> modal_;
+    std::vector<std::pair<Glob*, IdStamp>> doomed_;
+    std::vector<Glob*> timerGlobs_;
+    MessageQueue queue_;
+    std::deque<MessageQueue::Item> delivering_;
+    std::unique_ptr<Screen> screen_;
+    std::unique_ptr<InputDispatcher> input_;
+    XY<int> cascade_;
+    int timerPeriodMs_ = 50;
+    bool screenDirty_ = true;
+};
+
+// Registers a kind of glob by name at load: a static GlobKindRegistration beside the class.
+struct GlobKindRegistration {
+    GlobKindRegistration(const char* type, GlobManager::Maker maker) { GlobManager::registerGlobKind(type, std::move(maker)); }
+};

@@ -1,0 +1,120 @@
+#include "InputDispatcher.h"
+
+#include "Glob.h"
+#include "GlobManager.h"
+
+#include <chrono>
+#include <cstdlib>
+
+namespace {
+constexpr long long kDoubleClickMs = 400;
+
+long long steadyMs() {
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+} // namespace
+
+Glob* InputDispatcher::Ref::get() const { return EventHandler::valid(glob, stamp) ? glob : nullptr; }
+
+void InputDispatcher::Ref::set(Glob* g) {
+    glob = g;
+    stamp = g ? g->stamp() : IdStamp();
+}
+
+Glob* InputDispatcher::focus() const { return focus_.get(); }
+Glob* InputDispatcher::capture() const { return capture_.get(); }
+Glob* InputDispatcher::hover() const { return hover_.get(); }
+
+void InputDispatcher::setFocus(Glob* g) {
+    Glob* old = focus_.get();
+    if (old == g) return;
+    focus_.set(g);
+    if (old) old->handleKbdFocus(false);
+    if (g && focus_.get() == g) g->handleKbdFocus(true);
+}
+
+void InputDispatcher::forget(Glob* g) {
+    for (Ref* r : {&focus_, &capture_, &hover_})
+        if (r->glob == g) *r = Ref();
+}
+
+Glob* InputDispatcher::targetForMouse(const Event& e) const {
+    if (Glob* c = capture_.get(); c && e.type() != Event::kMouseDown) return c;
+    GlobManager& gm = GlobManager::instance();
+    const auto& roots = gm.roots();
+    Glob* modal = gm.topModal();
+    for (auto it = roots.rbegin(); it != roots.rend(); ++it) {
+        Glob* root = *it;
+        if (!root->isVisible()) continue;
+        if (root->box().contains(e.screenPos())) return root->findGlobAt(e.screenPos() - XY<int>(root->getX(), root->getY()));
+        // Nothing below a modal glob takes the mouse.
+        if (root == modal) return nullptr;
+    }
+    return nullptr;
+}
+
+Glob* InputDispatcher::targetForKeys() const {
+    if (Glob* f = focus_.get(); f && f->isShowing()) {
+        Glob* modal = GlobManager::instance().topModal();
+        if (!modal || getRootParent(f) == modal || !GlobManager::instance().isModal(getRootParent(f))) return f;
+    }
+    if (Glob* modal = GlobManager::instance().topModal()) return modal;
+    const auto& roots = GlobManager::instance().roots();
+    for (auto it = roots.rbegin(); it != roots.rend(); ++it)
+        if ((*it)->isVisible()) return *it;
+    return nullptr;
+}
+
+Glob* InputDispatcher::bubble(Glob* g, Event e) {
+    while (g) {
+        IdStamp stamp = g->stamp();
+        Glob* parent = g->parent();
+        IdStamp parentStamp = parent ? parent->stamp() : IdStamp();
+        if (g->isActive() || !mouse_event(e)) {
+            e.setLocalPos(g->screenXYToGlobXY(e.screenPos()));
+            if (g->handleEvent(e)) return EventHandler::valid(g, stamp) ? g : nullptr;
+        }
+        // The handler may have deleted the glob, or its parent.
+        if (!EventHandler::valid(parent, parentStamp)) return nullptr;
+        g = parent;
+    }
+    return nullptr;
+}
+
+void InputDispatcher::updateHover(Glob* g) {
+    Glob* old = hover_.get();
+    if (old == g) return;
+    hover_.set(g);
+    if (old) old->handleMouseContainment(false);
+    if (g && hover_.get() == g) g->handleMouseContainment(true);
+}
+
+void InputDispatcher::countClicks(Event& e) {
+    long long now = steadyMs();
+    bool near = std::abs(e.screenPos().x - lastClickPos_.x) <= 3 && std::abs(e.screenPos().y - lastClickPos_.y) <= 3;
+    clicks_ = (near && now - lastClickMs_ <= kDoubleClickMs) ? clicks_ + 1 : 1;
+    lastClickMs_ = now;
+    lastClickPos_ = e.screenPos();
+    e.setClickCount(clicks_);
+}
+
+void InputDispatcher::dispatch(const Event& event) {
+    Event e = event;
+    if (mouse_event(e)) {
+        mouse_ = e.screenPos();
+        Glob* target = targetForMouse(e);
+        if (e.type() == Event::kMouseMove || e.type() == Event::kMouseDown) updateHover(capture_.get() ? capture_.get() : target);
+        if (!target) return;
+        if (e.type() == Event::kMouseDown) {
+            countClicks(e);
+            capture_.set(target);
+            target->popToTop(true);
+            if (target->acceptsKbdFocus() && target->isActive()) setFocus(target);
+        }
+        bubble(target, e);
+        if (e.type() == Event::kMouseUp) capture_ = Ref();
+        return;
+    }
+    if (e.type() == Event::kKeyPress || e.type() == Event::kKeyRelease || e.type() == Event::kTextInput) bubble(targetForKeys(), e);
+}

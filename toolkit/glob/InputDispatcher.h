@@ -1,0 +1,43 @@
+#pragma once
+
+#include "core/Event.h"
+
+class Glob;
+
+// Routes input in screen coordinates to globs. The mouse goes to the deepest glob
+// under it (or to the glob that took the button down, until it is released), keys
+// and typed text to the glob with keyboard focus; either bubbles up through the
+// parents until one consumes it. Every pointer it keeps is checked by stamp.
+class InputDispatcher {
+public:
+    void dispatch(const Event& e);
+
+    Glob* focus() const;
+    void setFocus(Glob* g);
+    Glob* capture() const;
+    void releaseCapture() { capture_ = {}; }
+    Glob* hover() const;
+    XY<int> mousePos() const { return mouse_; }
+    void forget(Glob* g);
+
+private:
+    struct Ref {
+        Glob* glob = nullptr;
+        IdStamp stamp;
+        Glob* get() const;
+        void set(Glob* g);
+    };
+
+    Glob* targetForMouse(const Event& e) const;
+    Glob* targetForKeys() const;
+    // Gives the event to `g` and its ancestors in turn; returns the glob that consumed it.
+    Glob* bubble(Glob* g, Event e);
+    void updateHover(Glob* g);
+    void countClicks(Event& e);
+
+    Ref focus_, capture_, hover_;
+    XY<int> mouse_;
+    XY<int> lastClickPos_;
+    long long lastClickMs_ = 0;
+    int clicks_ = 0;
+};

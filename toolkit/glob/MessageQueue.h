@@ -1,0 +1,37 @@
+#pragma once
+
+#include "core/Event.h"
+
+#include <condition_variable>
+#include <deque>
+#include <mutex>
+
+class EventHandler;
+
+// Messages on their way to the user-interface thread. Any thread may post; only
+// the user-interface thread takes. Each message remembers its target's stamp, so a
+// target that dies before delivery simply misses it.
+class MessageQueue {
+public:
+    struct Item {
+        Event event;
+        EventHandler* target = nullptr;
+        IdStamp stamp;
+    };
+
+    void post(Item item);
+    // Moves every waiting message into `out` (appending); returns how many.
+    std::size_t takeAll(std::deque<Item>& out);
+    bool empty() const;
+    std::size_t size() const;
+    // Waits until a message arrives or the timeout passes.
+    void waitFor(int milliseconds);
+    // Wakes a waiter with no message (when the window has input, say).
+    void wake();
+
+private:
+    mutable std::mutex lock_;
+    std::condition_variable arrived_;
+    std::deque<Item> items_;
+    bool woken_ = false;
+};

@@ -1,0 +1,55 @@
+#include "Messaging.h"
+
+#include "EventHandler.h"
+#include "GlobManager.h"
+
+#include <atomic>
+#include <thread>
+
+namespace {
+
+std::atomic<std::thread::id> uiThread{};
+
+EventHandler* asHandler(iObject* o) { return dynamic_cast<EventHandler*>(o); }
+
+} // namespace
+
+void setUIThread() { uiThread.store(std::this_thread::get_id()); }
+
+int co_pid() {
+    std::thread::id ui = uiThread.load();
+    if (ui == std::thread::id()) {
+        // The first thread to ask becomes the user-interface thread.
+        std::thread::id none{};
+        uiThread.compare_exchange_strong(none, std::this_thread::get_id());
+        ui = uiThread.load();
+    }
+    if (std::this_thread::get_id() == ui) return 0;
+    static std::atomic<int> next{1};
+    thread_local int id = next++;
+    return id;
+}
+
+void sendMessage(const LightweightString<char>& name, EventHandler* target, iObject* sender, bool) {
+    sendMessageWithData(name, target, {}, sender);
+}
+
+void sendMessageWithData(const LightweightString<char>& name, EventHandler* target, const Zn::Ptr<iObject>& data, iObject* sender) {
+    if (!target) return;
+    GlobManager::instance().post(Event::message(name, asHandler(sender), data), target);
+}
+
+int callMessage(const LightweightString<char>& name, EventHandler* target, iObject* sender) {
+    return callMessageWithData(name, target, {}, sender);
+}
+
+int callMessageWithData(const LightweightString<char>& name, EventHandler* target, const Zn::Ptr<iObject>& data, iObject* sender) {
+    if (!EventHandler::isLive(target)) return 0;
+    return target->handleEvent(Event::message(name, asHandler(sender), data));
+}
+
+void glob_poll_background_tasks() { GlobManager::instance().processPending(); }
+
+void set_kbd_focus(Glob* g) { GlobManager::instance().setKbdFocus(g); }
+
+Glob* get_kbd_focus() { return GlobManager::instance().kbdFocus(); }

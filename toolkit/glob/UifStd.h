@@ -1,0 +1,45 @@
+#pragma once
+
+#include "core/Palette.h"
+#include "core/UIString.h"
+#include "draw/FontDesc.h"
+
+// The source of every metric and of the appearance. Layout code asks it for row
+// heights, gaps and fonts instead of holding pixel numbers; every metric is a base
+// figure times the scale, so a scale of 2 makes the whole interface HiDPI.
+class UifStd {
+public:
+    static UifStd& instance();
+
+    int getRowHeight() const;
+    int getRowGap() const;
+    int getWidgetGap() const;
+    int getIndentWidth() const;
+    int getBorderWidth() const;
+    int getTitleHeight() const;
+    double getScale() const { return scale_; }
+    // Changes the scale of every metric; widgets hear of it through handleUIChange.
+    void setScale(double scale);
+
+    Glib::FontDesc getDefaultFont() const;
+    Glib::FontDesc getTitleFont() const;
+    Glib::FontDesc getSubheadingFont() const;
+    Glib::FontDesc getMonospaceFont() const;
+    const Palette& getColourScheme() const { return scheme_; }
+    void setColourScheme(const Palette& p) { scheme_ = p; }
+    // 0 dark, 1 light.
+    int getTheme() const { return scheme_.isDark() ? 0 : 1; }
+    // 0: new top-level windows cascade from the top left.
+    int getWindowArrangement() const { return 0; }
+
+    // The size of a text in the default font, one line high at least.
+    XY<int> measure(const UIString& text) const;
+    XY<int> measure(const LightweightString<wchar_t>& text, const Glib::FontDesc& font) const;
+
+private:
+    UifStd();
+    int scaled(int base) const;
+
+    double scale_ = 1.0;
+    Palette scheme_;
+};
