@@ -1,0 +1,29 @@
+#!/usr/bin/env bash
+# Builds Mosaic and runs every test: a plain build with warnings as errors, then
+# the same tests under AddressSanitizer with UndefinedBehaviorSanitizer, then under
+# ThreadSanitizer. Set MOSAIC_SKIP_SANITIZERS=1 to run the plain build only.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+bash scripts/setup.sh
+
+jobs=$(nproc)
+export CTEST_OUTPUT_ON_FAILURE=1
+
+run_suite() {
+  local dir=$1; shift
+  cmake -S . -B "$dir" -G Ninja -DMOSAIC_WERROR=ON "$@" >/dev/null
+  cmake --build "$dir" -j "$jobs"
+  (cd "$dir" && MOSAIC_TEST_OUTPUT="$PWD/test-output" ctest -j "$jobs" --timeout 600)
+}
+
+echo "== plain build =="
+run_suite build -DCMAKE_BUILD_TYPE=RelWithDebInfo
+
+if [ "${MOSAIC_SKIP_SANITIZERS:-0}" != 1 ]; then
+  echo "== AddressSanitizer + UndefinedBehaviorSanitizer =="
+  ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
+    run_suite build-asan -DCMAKE_BUILD_TYPE=Debug -DMOSAIC_ASAN=ON -DMOSAIC_BUILD_BENCH=OFF
+  echo "== ThreadSanitizer =="
+  TSAN_OPTIONS="halt_on_error=1 suppressions=$PWD/scripts/tsan.supp" \
+    run_suite build-tsan -DCMAKE_BUILD_TYPE=Debug -DMOSAIC_TSAN=ON -DMOSAIC_BUILD_BENCH=OFF
+fi
