@@ -21,7 +21,7 @@ run_suite build -DCMAKE_BUILD_TYPE=RelWithDebInfo
 
 if [ "${MOSAIC_SKIP_SANITIZERS:-0}" != 1 ]; then
   echo "== AddressSanitizer + UndefinedBehaviorSanitizer =="
-  ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
+  ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 LSAN_OPTIONS="suppressions=$PWD/scripts/lsan.supp" UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
     run_suite build-asan -DCMAKE_BUILD_TYPE=Debug -DMOSAIC_ASAN=ON -DMOSAIC_BUILD_BENCH=OFF
   echo "== ThreadSanitizer =="
   TSAN_OPTIONS="halt_on_error=1 suppressions=$PWD/scripts/tsan.supp" \

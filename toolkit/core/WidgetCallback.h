@@ -13,13 +13,6 @@ public:
     WidgetCallback(const Zn::Ptr<iCallbackBase<int, NotifyMsg>>& callback, const LightweightString<char>& message = {},
                    const Zn::Ptr<iObject>& payload = {})
         : callback_(callback), message_(message), payload_(payload) {}
-    WidgetCallback(const WidgetCallback& o) : iObject(), callback_(o.callback_), message_(o.message_), payload_(o.payload_) {}
-    WidgetCallback& operator=(const WidgetCallback& o) {
-        callback_ = o.callback_;
-        message_ = o.message_;
-        payload_ = o.payload_;
-        return *this;
-    }
 
     const Zn::Ptr<iCallbackBase<int, NotifyMsg>>& callback() const { return callback_; }
     const LightweightString<char>& message() const { return message_; }

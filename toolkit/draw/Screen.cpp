@@ -62,6 +62,13 @@ void Screen::composite(const std::vector<Layer>& layers) {
     for (const Layer& l : layers) {
         if (!l.canvas) continue;
         double top = height_ - (l.position.y + l.canvas->height());
+        if (l.shadow) {
+            // Down and to the right of the canvas, as if lit from the top left.
+            int off = 4;
+            cairo_set_source_rgba(cr, 0, 0, 0, 0.35 * l.opacity);
+            cairo_rectangle(cr, l.position.x + off, top + off, l.canvas->width(), l.canvas->height());
+            cairo_fill(cr);
+        }
         cairo_surface_flush(l.canvas->surface());
         cairo_set_source_surface(cr, l.canvas->surface(), l.position.x, top);
         if (l.opacity >= 1.0)

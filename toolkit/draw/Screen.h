@@ -20,6 +20,7 @@ public:
         const Canvas* canvas;
         XY<int> position; // bottom left on the screen
         double opacity = 1.0;
+        bool shadow = false;
     };
 
     Screen(int width, int height);

@@ -4,8 +4,13 @@
 #include "Messaging.h"
 #include "draw/Canvas.h"
 #include "draw/CanvasRenderer.h"
+#include "draw/Screen.h"
+#include "draw/StateSaver.h"
+#include "InputDispatcher.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <string>
 #include <mutex>
 #include <unordered_set>
 
@@ -217,18 +222,82 @@ XY<int> Glob::screenPos() const {
 XY<int> Glob::screenXYToGlobXY(const XY<int>& p) const { return p - screenPos(); }
 
 void Glob::resize(double width, double height) {
-    int w = std::max(minSize_.x, std::max(0, static_cast<int>(width)));
-    int h = std::max(minSize_.y, std::max(0, static_cast<int>(height)));
-    if (w == w_ && h == h_) return;
+    XY<int> s = sizeConstrain({static_cast<int>(width), static_cast<int>(height)});
+    if (s.x == w_ && s.y == h_) return;
     XY<int> old = size();
-    w_ = w;
-    h_ = h;
+    oldSize_ = old;
+    w_ = s.x;
+    h_ = s.y;
     if (ownCanvas_) ownCanvas_->resize(w_, h_);
     calcAbsoluteWidgetPositions();
     if (parent_) parent_->handleChildResize(this, old);
 }
 
 void Glob::handleChildResize(const Glob*, const XY<int>&) { calcAbsoluteWidgetPositions(); }
+
+XY<int> Glob::sizeConstrain(const XY<int>& s) const { return {std::max({0, minSize_.x, s.x}), std::max({0, minSize_.y, s.y})}; }
+
+XY<int> Glob::realPositionConstrain(const XY<int>& pos) const {
+    return GlobManager::instance().getSafePosForGlob(canvas_, positionConstrain(pos), size());
+}
+
+void Glob::constrainWithinScreen() {
+    if (!parent_) setupRootPos(realPositionConstrain({x_, y_}));
+}
+
+void Glob::setSizeState(eSizeState state) {
+    if (parent_ || state == sizeState_) return;
+    if (sizeState_ == kNormalSize) normalBox_ = box();
+    sizeState_ = state;
+    switch (state) {
+    case kMaximised: {
+        const Screen& screen = GlobManager::instance().screen();
+        resize(screen.width(), screen.height());
+        setupRootPos({0, 0});
+        setVisible(true);
+        break;
+    }
+    case kMinimised: setVisible(false); break;
+    default:
+        resize(normalBox_.width(), normalBox_.height());
+        setupRootPos({normalBox_.x1, normalBox_.y1});
+        setVisible(true);
+        break;
+    }
+    redraw();
+}
+
+void Glob::reshape() {
+    calcAbsoluteWidgetPositions();
+    redraw();
+}
+
+bool Glob::reparentTo(Glob* newParent) {
+    if (!reparentable_ || !newParent || newParent == parent_ || newParent == this || isParentedTo(newParent, this)) return false;
+    WidgetDetails d = parent_ ? parent_->getWidget(this) : WidgetDetails();
+    // A position hung from an old sibling cannot hold in the new parent.
+    if (d.position.origin == kSiblingRelative) d.position = WidgetPosition(kBottomLeft, {x_, y_});
+    if (!parent_) d.position = WidgetPosition(kBottomLeft, {0, 0});
+    newParent->addChild(this, d.position, d.surround);
+    return true;
+}
+
+void Glob::reshapeWidgetAt(Glob* child, double x, double y, Glob* sibling) {
+    XY<int> at(static_cast<int>(x), static_cast<int>(y));
+    if (sibling && sibling->parent_ == this) at = at + XY<int>(sibling->x_, sibling->y_);
+    setWidgetPos(child, BottomLeft(at));
+    if (child && child->parent_ == this) redraw();
+}
+
+void Glob::startMoving(const XY<int>& grab, bool raise) {
+    Glob* root = getRootParent(this);
+    if (raise) GlobManager::instance().raise(root);
+    GlobManager::instance().input().startMoving(root, grab);
+}
+
+void Glob::setModalContextGlob(Glob* modal, Glob* context) { GlobManager::instance().addModalGlob(modal, context ? context : this); }
+
+void Glob::unsetModalContextGlob(Glob* modal) { GlobManager::instance().removeModalGlob(modal); }
 
 void Glob::reshapeAndDraw(const XY<int>& s) {
     constexpr int kKeep = -1234;
@@ -243,9 +312,11 @@ void Glob::setMinSize(unsigned short w, unsigned short h) {
 
 void Glob::setupRootPos(const XY<int>& p) {
     if (parent_) return;
+    if (p == XY<int>(x_, y_)) return;
     x_ = p.x;
     y_ = p.y;
     GlobManager::instance().screenChanged();
+    moved();
 }
 
 void Glob::setupRootPos(Canvas*, const XY<int>& p) { setupRootPos(p); }
@@ -284,6 +355,26 @@ void Glob::setActive(bool a, eRedrawFlag flag) {
     if (flag == kRedraw) redraw();
 }
 
+void Glob::addSurround(const Colour& colour, unsigned long width, float opacity, unsigned int sides) {
+    surround_ = {colour, width, opacity, sides};
+    redraw();
+}
+
+void Glob::removeSurround() {
+    if (!hasSurround()) return;
+    surround_ = Surround();
+    // What the surround covered belongs to the parent.
+    if (parent_)
+        parent_->redraw();
+    else
+        redraw();
+}
+
+void Glob::setOpacity(double o) {
+    opacity_ = std::clamp(o, 0.0, 1.0);
+    GlobManager::instance().screenChanged();
+}
+
 void Glob::setContextString(const UIString& tooltip, const UIString& extra) {
     tooltip_ = tooltip;
     contextExtra_ = extra;
@@ -316,10 +407,53 @@ void Glob::draw() {
     drawBackground();
     drawWidgets();
     drawBorder();
+    drawSurround();
     canvas_->popOrigin();
 }
 
 void Glob::drawBackground() { CanvasRenderer(canvas_).fill(palette_.window()); }
+
+void Glob::drawSurround() {
+    if (!hasSurround()) return;
+    Colour c = surround_.colour;
+    c.setAlpha(c.alpha() * surround_.opacity);
+    CanvasRenderer r(canvas_);
+    int t = static_cast<int>(surround_.width);
+    if (surround_.sides & 1) r.render(Glib::RectDescription(BoxInt(0, 0, t, h_), c));
+    if (surround_.sides & 2) r.render(Glib::RectDescription(BoxInt(w_ - t, 0, w_, h_), c));
+    if (surround_.sides & 4) r.render(Glib::RectDescription(BoxInt(0, 0, w_, t), c));
+    if (surround_.sides & 8) r.render(Glib::RectDescription(BoxInt(0, h_ - t, w_, h_), c));
+}
+
+void Glob::drawUnbuffered() { paintNow(); }
+
+void Glob::makeCanvasCurrent() { Glib::setCurrentCanvas(canvas_); }
+
+void Glob::reshapeCanvas() {
+    if (ownCanvas_) ownCanvas_->resize(w_, h_);
+}
+
+void Glob::load(const configb& c) {
+    if (!persistable_) return;
+    auto number = [&](const char* key, int fallback) {
+        LightweightString<char> v = c.get(key);
+        char* end = nullptr;
+        long n = std::strtol(v.c_str(), &end, 10);
+        return (v.empty() || *end) ? fallback : static_cast<int>(n);
+    };
+    resize(number("width", w_), number("height", h_));
+    if (!parent_) setupRootPos(realPositionConstrain({number("x", x_), number("y", y_)}));
+    makeClean();
+}
+
+void Glob::dump(configb& c) {
+    if (!persistable_) return;
+    c.set("x", LightweightString<char>(std::to_string(x_)));
+    c.set("y", LightweightString<char>(std::to_string(y_)));
+    c.set("width", LightweightString<char>(std::to_string(w_)));
+    c.set("height", LightweightString<char>(std::to_string(h_)));
+    makeClean();
+}
 
 void Glob::drawWidgets() {
     for (WidgetDetails& d : children_)
@@ -384,6 +518,33 @@ bool Glob::visitSubtree(const std::function<bool(Glob*)>& f) {
 void Glob::visitAncestors(const std::function<bool(Glob*)>& f) const {
     for (Glob* g = parent_; g; g = g->parent_)
         if (!f(g)) return;
+}
+
+void Glob::visitPostOrder(const std::function<void(Glob*)>& f) {
+    for (const WidgetDetails& d : children_) d.child->visitPostOrder(f);
+    f(this);
+}
+
+void Glob::visitOlderSiblings(const std::function<bool(Glob*)>& f) const {
+    if (!parent_) return;
+    for (const WidgetDetails& d : parent_->children_) {
+        if (d.child == this || !f(d.child)) return;
+    }
+}
+
+void Glob::visitYoungerSiblings(const std::function<bool(Glob*)>& f) const {
+    if (!parent_) return;
+    bool after = false;
+    for (const WidgetDetails& d : parent_->children_) {
+        if (after && !f(d.child)) return;
+        after = after || d.child == this;
+    }
+}
+
+void Glob::visitSiblings(const std::function<bool(Glob*)>& f) const {
+    if (!parent_) return;
+    for (const WidgetDetails& d : parent_->children_)
+        if (d.child != this && !f(d.child)) return;
 }
 
 // ---- free functions ---------------------------------------------------------

@@ -6,6 +6,7 @@
 #include "WidgetDetails.h"
 #include "core/GlobCreationInfo.h"
 #include "core/UIString.h"
+#include "platform/configb.h"
 
 #include <functional>
 #include <memory>
@@ -19,8 +20,11 @@ class Canvas;
 // A parent owns its children and deletes them with itself. Positions count upward
 // from the bottom left of the parent. A glob made without a canvas is a top-level
 // glob with a canvas of its own; adding it to a parent moves it onto the parent's.
-class Glob : public EventHandler, public Drawable {
+class Glob : public EventHandler, public Drawable, public Dirtiable {
 public:
+    enum eSizeState { kNormalSize = 0, kMinimised = 1, kMaximised = 2 };
+    enum eDropReason { kDropped = 0, kDropCancelled = 1 };
+
     explicit Glob(const GlobCreationInfo& info);
     ~Glob() override;
 
@@ -43,6 +47,13 @@ public:
     virtual void removeWidget(Glob*& child, bool destroy);
     std::vector<Glob*> getChildren() const;
     std::size_t numChildren() const { return children_.size(); }
+    // Moves this glob to another parent, keeping how it was positioned; refused
+    // unless the glob was made reparentable.
+    virtual bool reparentTo(Glob* newParent);
+    virtual void setReparentable(bool r) { reparentable_ = r; }
+    virtual bool isReparentable() const { return reparentable_; }
+    // Puts a child at (x, y) of this glob, relative to `sibling`'s bottom left when one is given.
+    void reshapeWidgetAt(Glob* child, double x, double y, Glob* sibling = nullptr);
     Glob* parent() const { return parent_; }
     bool isChildGlob() const { return parent_ != nullptr; }
     // The glob that hears this one's messages when it has no parent (a menu's owner, say).
@@ -90,9 +101,32 @@ public:
     void reshapeAndDraw(const XY<int>& size);
     virtual void setMinSize(unsigned short w, unsigned short h);
     virtual XY<int> getMinSize() const { return minSize_; }
+    int oldWidth() const { return oldSize_.x; }
+    int oldHeight() const { return oldSize_.y; }
+    // Hooks that may adjust a size or a top-level position before it is applied.
+    virtual XY<int> sizeConstrain(const XY<int>& size) const;
+    virtual XY<int> positionConstrain(const XY<int>& pos) const { return pos; }
+    // Keeps a top-level glob wholly on the screen where it fits.
+    XY<int> realPositionConstrain(const XY<int>& pos) const;
+    void constrainWithinScreen();
+    // Normal, minimised (hidden) or maximised (the whole screen) for a top-level glob.
+    virtual void setSizeState(eSizeState state);
+    eSizeState sizeState() const { return sizeState_; }
+    // Lays the children out again and repaints.
+    virtual void reshape();
+    // Recomputes this glob's own size from its content; nothing to do by default.
+    virtual void reshape_myself() {}
     // A top-level glob's place on the screen.
     void setupRootPos(const XY<int>& screenPos);
     void setupRootPos(Canvas* c, const XY<int>& screenPos);
+    // Lets the mouse carry this top-level glob from `grab` (a screen point) until the
+    // button is released; with `raise` it comes to the top first.
+    void startMoving(const XY<int>& grab, bool raise = true);
+    // Called after a top-level glob moved on the screen.
+    virtual void moved() {}
+    // Makes `modal` take all input while it is up, with `context` (this glob if null) below it.
+    void setModalContextGlob(Glob* modal, Glob* context = nullptr);
+    void unsetModalContextGlob(Glob* modal);
 
     // Look and state.
     Canvas* canvas() const { return canvas_; }
@@ -119,6 +153,25 @@ public:
     virtual MouseCursorID contextCursor(const XY<int>&) const { return cursor_; }
     XY<int> getHotSpot() const { return hotSpot_; }
     void setHotSpot(const XY<int>& p) { hotSpot_ = p; }
+    // A drop shadow under a top-level glob, and a coloured frame drawn around any glob.
+    void addShadow() { shadow_ = true; }
+    bool hasShadow() const { return shadow_; }
+    void addSurround(const Colour& colour, unsigned long width = 2, float opacity = 1.0f, unsigned int sides = 15);
+    void removeSurround();
+    bool hasSurround() const { return surround_.width > 0; }
+    // Opacity of a top-level glob on the screen, 0 to 1.
+    virtual void setOpacity(double o);
+    double opacity() const { return opacity_; }
+    virtual void setQuickDraw(bool q) { quickDraw_ = q; }
+    virtual bool getQuickDraw() const { return quickDraw_; }
+    virtual bool isMagnetic() const { return false; }
+    // "It" is the top-level glob the user last worked in; globs that cannot be it are passed over.
+    virtual void setCanBeIt(bool c) { canBeIt_ = c; }
+    virtual bool canBeIt() const { return canBeIt_; }
+    virtual void handle_it(bool isIt) {}
+    // Called once, just before a glob is deleted at a safe moment.
+    virtual void glob_tidy() {}
+    LightweightString<char> get_glob_cookie() const { return stamp().asString(); }
     void setMovable(bool m) { movable_ = m; }
     bool isMovable() const { return movable_; }
     void setResizable(bool r) { resizable_ = r; }
@@ -135,11 +188,31 @@ public:
     virtual void drawBorder() {}
     // Whether a pixel of this glob is painted solid; transparent globs let the one below show.
     virtual bool isOpaqueAt(const XY<int>&) const { return true; }
+    // Paints at once whether or not redraws are disabled.
+    void drawUnbuffered();
+    // Makes this glob's canvas the one drawing goes to by default.
+    void makeCanvasCurrent();
+    // Matches a top-level glob's canvas to its size.
+    virtual void reshapeCanvas();
+
+    // Persistence of a glob's place and size: load and dump read and write them in a
+    // configb when the glob is persistable.
+    virtual void load(const configb& c);
+    virtual void dump(configb& c);
+    virtual void setPersistable(bool p) { persistable_ = p; }
+    virtual bool isPersistable() const { return persistable_; }
+
+    // Drag and drop: pick starts carrying the glob, drop ends it.
+    virtual void pick() {}
+    virtual void drop(eDropReason) {}
 
     // Events.
     int handleEvent(const Event& e) override { return react(e); }
     virtual int react(const Event& e) { return 0; }
     virtual void handleMouseContainment(bool inside) {}
+    // Lets an ancestor see input meant for a descendant first; non-zero consumes it.
+    virtual int intercept(const Event& e) { return 0; }
+    virtual UIString getTooltipDetails() const { return contextExtra_; }
     virtual bool acceptsKbdFocus() const { return false; }
     virtual bool claimKbdFocus();
     virtual void handleKbdFocus(bool gained) {}
@@ -162,6 +235,11 @@ public:
     void visitChildren(const std::function<bool(Glob*)>& f) const;
     bool visitSubtree(const std::function<bool(Glob*)>& f);
     void visitAncestors(const std::function<bool(Glob*)>& f) const;
+    void visitPostOrder(const std::function<void(Glob*)>& f);
+    // Siblings added before this glob, after it, or all of them, in order.
+    void visitOlderSiblings(const std::function<bool(Glob*)>& f) const;
+    void visitYoungerSiblings(const std::function<bool(Glob*)>& f) const;
+    void visitSiblings(const std::function<bool(Glob*)>& f) const;
 
     // True for the glob with this address while it lives. Safe on dangling pointers.
     static bool isLiveGlob(const Glob* g);
@@ -202,6 +280,23 @@ private:
     bool movable_ = false;
     bool resizable_ = false;
     bool dying_ = false;
+    bool reparentable_ = false;
+    bool persistable_ = false;
+    bool shadow_ = false;
+    bool quickDraw_ = false;
+    bool canBeIt_ = true;
+    double opacity_ = 1.0;
+    eSizeState sizeState_ = kNormalSize;
+    XY<int> oldSize_;
+    BoxInt normalBox_;
+    struct Surround {
+        Colour colour;
+        unsigned long width = 0;
+        float opacity = 1.0f;
+        unsigned int sides = 15;
+    } surround_;
+
+    void drawSurround();
 };
 
 // True when `g` denotes a live glob; safe on a dangling pointer.

@@ -106,7 +106,8 @@ void GlobManager::deleteDoomed() {
         for (const auto& d : batch) {
             // An earlier deletion in this batch may have taken it with its parent.
             if (!stillThere(d)) continue;
-            delete d.first;
+            d.first->glob_tidy();
+            if (stillThere(d)) delete d.first;
         }
     }
 }
@@ -272,7 +273,7 @@ bool GlobManager::compose() {
     if (!screenDirty_) return false;
     std::vector<Screen::Layer> layers;
     for (Glob* g : roots_)
-        if (g->isVisible()) layers.push_back({g->canvas(), {g->getX(), g->getY()}, 1.0});
+        if (g->isVisible()) layers.push_back({g->canvas(), {g->getX(), g->getY()}, g->opacity(), g->hasShadow()});
     screen().composite(layers);
     screenDirty_ = false;
     return true;

@@ -4,6 +4,7 @@
 #include "GlobManager.h"
 
 #include <chrono>
+#include <vector>
 #include <cstdlib>
 
 namespace {
@@ -35,8 +36,46 @@ void InputDispatcher::setFocus(Glob* g) {
 }
 
 void InputDispatcher::forget(Glob* g) {
-    for (Ref* r : {&focus_, &capture_, &hover_})
+    for (Ref* r : {&focus_, &capture_, &hover_, &moving_, &it_})
         if (r->glob == g) *r = Ref();
+}
+
+Glob* InputDispatcher::it() const { return it_.get(); }
+
+void InputDispatcher::setIt(Glob* root) {
+    if (!root || !root->canBeIt()) return;
+    Glob* old = it_.get();
+    if (old == root) return;
+    it_.set(root);
+    if (old) old->handle_it(false);
+    if (it_.get() == root) root->handle_it(true);
+}
+
+void InputDispatcher::startMoving(Glob* root, XY<int> grab) {
+    if (!root || root->parent()) return;
+    moving_.set(root);
+    moveGrab_ = grab;
+    moveOrigin_ = {root->getX(), root->getY()};
+}
+
+bool InputDispatcher::moveWithMouse(const Event& e) {
+    Glob* g = moving_.get();
+    if (!g) return false;
+    g->setupRootPos(moveOrigin_ + (e.screenPos() - moveGrab_));
+    if (e.type() == Event::kMouseUp) moving_ = Ref();
+    return true;
+}
+
+bool InputDispatcher::intercepted(Glob* target, const Event& e) {
+    std::vector<std::pair<Glob*, IdStamp>> chain;
+    for (Glob* g = target->parent(); g; g = g->parent()) chain.emplace_back(g, g->stamp());
+    for (auto it = chain.rbegin(); it != chain.rend(); ++it) {
+        if (!EventHandler::valid(it->first, it->second)) return true;
+        Event local = e;
+        local.setLocalPos(it->first->screenXYToGlobXY(e.screenPos()));
+        if (it->first->intercept(local)) return true;
+    }
+    return false;
 }
 
 Glob* InputDispatcher::targetForMouse(const Event& e) const {
@@ -103,6 +142,7 @@ void InputDispatcher::dispatch(const Event& event) {
     Event e = event;
     if (mouse_event(e)) {
         mouse_ = e.screenPos();
+        if (moveWithMouse(e)) return;
         Glob* target = targetForMouse(e);
         if (e.type() == Event::kMouseMove || e.type() == Event::kMouseDown) updateHover(capture_.get() ? capture_.get() : target);
         if (!target) return;
@@ -110,11 +150,15 @@ void InputDispatcher::dispatch(const Event& event) {
             countClicks(e);
             capture_.set(target);
             target->popToTop(true);
+            setIt(getRootParent(target));
             if (target->acceptsKbdFocus() && target->isActive()) setFocus(target);
         }
-        bubble(target, e);
+        if (!intercepted(target, e)) bubble(target, e);
         if (e.type() == Event::kMouseUp) capture_ = Ref();
         return;
     }
-    if (e.type() == Event::kKeyPress || e.type() == Event::kKeyRelease || e.type() == Event::kTextInput) bubble(targetForKeys(), e);
+    if (e.type() == Event::kKeyPress || e.type() == Event::kKeyRelease || e.type() == Event::kTextInput) {
+        Glob* target = targetForKeys();
+        if (target && !intercepted(target, e)) bubble(target, e);
+    }
 }

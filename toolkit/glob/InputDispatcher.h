@@ -19,6 +19,10 @@ public:
     Glob* hover() const;
     XY<int> mousePos() const { return mouse_; }
     void forget(Glob* g);
+    // Carries a top-level glob with the mouse from `grab` until the button goes up.
+    void startMoving(Glob* root, XY<int> grab);
+    // The top-level glob the user last worked in.
+    Glob* it() const;
 
 private:
     struct Ref {
@@ -35,7 +39,13 @@ private:
     void updateHover(Glob* g);
     void countClicks(Event& e);
 
-    Ref focus_, capture_, hover_;
+    bool moveWithMouse(const Event& e);
+    void setIt(Glob* root);
+    // Lets each ancestor of `target`, outermost first, take the event before it.
+    bool intercepted(Glob* target, const Event& e);
+
+    Ref focus_, capture_, hover_, moving_, it_;
+    XY<int> moveGrab_, moveOrigin_;
     XY<int> mouse_;
     XY<int> lastClickPos_;
     long long lastClickMs_ = 0;

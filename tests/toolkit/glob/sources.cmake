@@ -1,6 +1,7 @@
 list(APPEND GLOBKIT_TEST_SOURCES
   toolkit/glob/GlobLayoutTest.cpp
   toolkit/glob/GlobLifetimeTest.cpp
+  toolkit/glob/GlobOperationsTest.cpp
   toolkit/glob/InputTest.cpp
   toolkit/glob/MessagingTest.cpp
   toolkit/glob/RedrawTest.cpp
