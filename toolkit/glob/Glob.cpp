@@ -576,6 +576,12 @@ void walk_all_root_globs(const std::function<void(Glob*)>& f) {
     for (Glob* g : GlobManager::instance().roots()) f(g);
 }
 
+bool writeGlobPNG(const Glob* g, const LightweightString<char>& path) {
+    if (!is_good_glob_ptr(g) || !g->canvas()) return false;
+    BoxInt area(g->canvasPos(), g->size());
+    return writeCanvasPNG(*g->canvas(), path, &area);
+}
+
 Glob* event_to_sender_glob(const Event& e) {
     if (!EventHandler::valid(e.sender(), e.senderStamp())) return nullptr;
     return dynamic_cast<Glob*>(e.sender());

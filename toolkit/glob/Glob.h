@@ -307,5 +307,7 @@ bool isParentedTo(const Glob* g, const Glob* ancestor);
 Glob* canvas_to_glob(Canvas* c);
 // Calls `f` on every realized top-level glob, bottom of the stack first.
 void walk_all_root_globs(const std::function<void(Glob*)>& f);
+// Writes what a glob shows (its box on its canvas) as a PNG file, atomically.
+bool writeGlobPNG(const Glob* g, const LightweightString<char>& path);
 // The glob that sent a message event, if it still lives.
 Glob* event_to_sender_glob(const Event& e);

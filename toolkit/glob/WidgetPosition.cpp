@@ -64,7 +64,11 @@ BoxInt WidgetPosition::resolve(XY<int> size, XY<int> parentSize, const BoxInt& u
         static const eCoordinateOrigin plain[] = {kBottomLeft, kBottomRight, kTopLeft, kTopRight, kCentre, kBottomCentre, kTopCentre};
         return placeIn(plain[origin - kUserBottomLeft], offset, size, userArea);
     }
-    if (origin == kNoPosition) return placeIn(kTopLeft, {}, size, userArea);
+    if (origin == kNoPosition) {
+        // No position asked for: centred in the parent, the odd pixel to the bottom left margin.
+        auto half = [](int spare) { return spare > 0 ? (spare + 1) / 2 : spare / 2; };
+        return BoxInt(XY<int>(half(parentSize.x - size.x), half(parentSize.y - size.y)), size);
+    }
     return placeIn(origin, offset, size, whole);
 }
 

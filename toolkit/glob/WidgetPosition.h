@@ -5,7 +5,8 @@
 
 class Glob;
 
-// Where a child goes. 0 hangs it from a sibling; 17 asks for no position. The
+// Where a child goes. 0 hangs it from a sibling; 17 asks for no position, which
+// centres a child in its parent and lets a top-level glob go where the manager puts it. The
 // plain forms are relative to the parent's whole area, the User forms to its user
 // area (inside the border and title). Offsets count inward from the named corner or
 // edge; the centred forms add the offset to the centred place.

@@ -56,6 +56,7 @@ public:
     Owned& operator=(const Owned&) = delete;
     T* get() const { return g_; }
     T* operator->() const { return g_; }
+    T& operator*() const { return *g_; }
 
 private:
     T* g_;

@@ -3,6 +3,9 @@
 #include "glob/GlobManager.h"
 #include "glob/UifStd.h"
 
+#include <cairo.h>
+#include <filesystem>
+
 using TestKit::Owned;
 
 namespace {
@@ -60,4 +63,25 @@ TEST_F(PanelPainting, ChildrenPaintInsideTheirParentOnly) {
     EXPECT_TRUE(TestKit::pixelNear(p.get(), 49, 49, 0xFFFF0000));
     EXPECT_TRUE(TestKit::pixelNear(p.get(), 50, 49, 0xFF000000)) << "the child is clipped to its parent";
     EXPECT_TRUE(TestKit::pixelNear(p.get(), 60, 60, 0xFF000000));
+}
+
+TEST_F(PanelPainting, OneGlobExportsAsAPNGOfItsOwnBox) {
+    Owned<StandardPanel> p(makeRootPanel(100, 80, {0, 0}, Colour(0, 0, 0)));
+    Block::InitArgs a(30, 20, Colour(1, 0, 0));
+    Block* b = p->createWidget<Block>(a, Glob::BottomLeft(10, 5));
+    p->redraw();
+    auto file = (std::filesystem::temp_directory_path() / "mosaic-glob.png").string();
+    ASSERT_TRUE(writeGlobPNG(b, file.c_str()));
+    cairo_surface_t* png = cairo_image_surface_create_from_png(file.c_str());
+    ASSERT_EQ(cairo_surface_status(png), CAIRO_STATUS_SUCCESS);
+    EXPECT_EQ(cairo_image_surface_get_width(png), 30);
+    EXPECT_EQ(cairo_image_surface_get_height(png), 20);
+    auto* data = cairo_image_surface_get_data(png);
+    EXPECT_EQ(*reinterpret_cast<std::uint32_t*>(data), 0xFFFF0000u);
+    cairo_surface_destroy(png);
+    std::filesystem::remove(file);
+    Glob* gone = b;
+    p->removeWidget(gone, true);
+    EXPECT_FALSE(writeGlobPNG(b, file.c_str()));
+    EXPECT_FALSE(std::filesystem::exists(file));
 }
