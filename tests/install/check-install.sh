@@ -1,0 +1,18 @@
+#!/usr/bin/env bash
+# Installs the build into a scratch prefix, then builds and runs a consumer with
+# find_package(Mosaic) and another with pkg-config.
+set -euo pipefail
+build=$1 src=$(cd "$(dirname "$0")" && pwd)
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cmake --install "$build" --prefix "$work/prefix" >/dev/null
+mkdir "$work/consumer"
+cp "$src/CMakeLists.txt.in" "$work/consumer/CMakeLists.txt"
+cp "$src/main.cpp" "$work/consumer/main.cpp"
+cmake -S "$work/consumer" -B "$work/consumer/build" -DCMAKE_PREFIX_PATH="$work/prefix" >/dev/null
+cmake --build "$work/consumer/build" >/dev/null
+"$work/consumer/build/consumer"
+flags=$(PKG_CONFIG_PATH="$work/prefix/lib/pkgconfig" pkg-config --cflags --libs mosaic)
+# shellcheck disable=SC2086
+c++ -std=c++20 "$src/main.cpp" -o "$work/pc-consumer" $flags -Wl,-rpath,"$work/prefix/lib"
+"$work/pc-consumer"
