@@ -3,6 +3,7 @@
 #include "GalleryScene.h"
 
 #include "draw/CanvasRenderer.h"
+#include "draw/Screen.h"
 #include "glob/GlobManager.h"
 #include "glob/StandardPanel.h"
 #include "glob/UifStd.h"
@@ -78,7 +79,8 @@ void buildDemo() {
     int gap = u.getWidgetGap();
     Drawable::disableRedraws();
 
-    StandardPanel* main = makePanel(520, 340, L"Toolkit demo", {80, 600});
+    const Screen& screen = GlobManager::instance().screen();
+    StandardPanel* main = makePanel(520, 340, L"Toolkit demo", {40, screen.height() - 40 - 340});
     Swatch::InitArgs red(110, u.getRowHeight(), Colour(0.75, 0.2, 0.2), L"Top left");
     Glob* first = main->createWidget<Swatch>(red, Glob::UserTopLeft(gap, gap));
     Swatch::InitArgs green(110, u.getRowHeight(), Colour(0.2, 0.6, 0.3), L"Below");
@@ -94,7 +96,9 @@ void buildDemo() {
     main->createWidget<TextSample>(text, Glob::UserBottomLeft(gap, gap + u.getRowHeight() + gap));
     GlobManager::instance().realize(main);
 
-    StandardPanel* side = makePanel(300, 220, L"Second panel", {640, 480});
+    StandardPanel* side = makePanel(300, 220, L"Second panel", {0, 0});
+    GlobCreationInfo sideInfo(300, 220);
+    side->setupRootPos(GlobManager::instance().getPosForGlob(sideInfo, Glob::RightOf(gap * 3, main, kAlignEnd)));
     auto* inner = new StandardPanel(StandardPanel::InitArgs(GlobCreationInfo(200, 100, side->getPalette(), true, side->canvas()),
                                                             Border(Border::kSunken, static_cast<unsigned short>(u.getBorderWidth()), 15)));
     inner->setTitle(UIString(L"Nested"));

@@ -36,7 +36,7 @@ GlobManager& GlobManager::instance() {
     return *m;
 }
 
-GlobManager::GlobManager() : input_(std::make_unique<InputDispatcher>()) { co_pid(); }
+GlobManager::GlobManager() : input_(std::make_unique<InputDispatcher>()) {}
 
 GlobManager::~GlobManager() = default;
 

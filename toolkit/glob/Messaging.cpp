@@ -5,6 +5,7 @@
 
 #include <atomic>
 #include <thread>
+#include <unistd.h>
 
 namespace {
 
@@ -18,13 +19,9 @@ void setUIThread() { uiThread.store(std::this_thread::get_id()); }
 
 int co_pid() {
     std::thread::id ui = uiThread.load();
-    if (ui == std::thread::id()) {
-        // The first thread to ask becomes the user-interface thread.
-        std::thread::id none{};
-        uiThread.compare_exchange_strong(none, std::this_thread::get_id());
-        ui = uiThread.load();
-    }
-    if (std::this_thread::get_id() == ui) return 0;
+    // Unless told otherwise, the process's first thread is the user-interface thread.
+    bool onUI = ui == std::thread::id() ? gettid() == getpid() : std::this_thread::get_id() == ui;
+    if (onUI) return 0;
     static std::atomic<int> next{1};
     thread_local int id = next++;
     return id;

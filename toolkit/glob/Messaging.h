@@ -20,8 +20,8 @@ int callMessageWithData(const LightweightString<char>& name, EventHandler* targe
 
 // 0 on the user-interface thread, a positive number on any other.
 int co_pid();
-// Makes the calling thread the user-interface thread. The first thread to use the
-// glob manager is it unless this is called.
+// Makes the calling thread the user-interface thread; until then it is the
+// process's first thread.
 void setUIThread();
 
 // Delivers waiting messages and does deferred work, for a long task on the

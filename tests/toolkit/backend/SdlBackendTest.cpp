@@ -1,0 +1,64 @@
+#include "backend/SdlBackend.h"
+
+#include <SDL.h>
+#include <gtest/gtest.h>
+
+namespace {
+Event translate(const SDL_Event& e) { return SdlBackend::translate(&e, 600); }
+} // namespace
+
+TEST(SdlBackend, MouseEventsFlipToBottomUpAndKeepTheirButton) {
+    SDL_Event e{};
+    e.type = SDL_MOUSEBUTTONDOWN;
+    e.button.button = SDL_BUTTON_RIGHT;
+    e.button.x = 10;
+    e.button.y = 0;
+    Event down = translate(e);
+    EXPECT_TRUE(mouse_down_event(down) && mouse_right_event(down));
+    EXPECT_EQ(down.screenPos(), XY<int>(10, 599));
+    e.type = SDL_MOUSEBUTTONUP;
+    e.button.button = SDL_BUTTON_MIDDLE;
+    e.button.y = 599;
+    Event up = translate(e);
+    EXPECT_TRUE(mouse_up_event(up) && mouse_chord_event(up));
+    EXPECT_EQ(up.screenPos().y, 0);
+    // Buttons the toolkit has no use for are dropped rather than passed on as left clicks.
+    e.button.button = 7;
+    EXPECT_EQ(translate(e).type(), Event::kNone);
+    e.type = SDL_MOUSEMOTION;
+    e.motion.x = 3;
+    e.motion.y = 100;
+    EXPECT_EQ(translate(e).screenPos(), XY<int>(3, 499));
+}
+
+TEST(SdlBackend, KeysMapToToolkitCodesAndModifiers) {
+    SDL_Event e{};
+    e.type = SDL_KEYDOWN;
+    e.key.keysym.sym = SDLK_LEFT;
+    EXPECT_EQ(translate(e).keyCode(), Keys::Left);
+    e.key.keysym.sym = SDLK_RETURN;
+    EXPECT_EQ(translate(e).keyCode(), Keys::Return);
+    e.key.keysym.sym = SDLK_F3;
+    EXPECT_EQ(translate(e).keyCode(), Keys::F1 + 2);
+    e.key.keysym.sym = SDLK_c;
+    e.key.keysym.mod = KMOD_LCTRL | KMOD_LSHIFT;
+    Event copy = translate(e);
+    EXPECT_EQ(copy.keyCode(), 'c');
+    EXPECT_EQ(copy.modifiers(), Modifiers::Control | Modifiers::Shift);
+    e.type = SDL_KEYUP;
+    EXPECT_EQ(translate(e).type(), Event::kKeyRelease);
+    // A key with no toolkit meaning (a media key) gives no event.
+    e.key.keysym.sym = SDLK_AUDIOPLAY;
+    EXPECT_EQ(translate(e).type(), Event::kNone);
+}
+
+TEST(SdlBackend, TypedTextArrivesAsWideText) {
+    SDL_Event e{};
+    e.type = SDL_TEXTINPUT;
+    std::strcpy(e.text.text, "\xC3\xA9t\xC3\xA9");
+    Event t = translate(e);
+    EXPECT_EQ(t.type(), Event::kTextInput);
+    EXPECT_EQ(t.typedText(), L"\u00e9t\u00e9");
+    e.type = SDL_FINGERDOWN;
+    EXPECT_EQ(translate(e).type(), Event::kNone);
+}

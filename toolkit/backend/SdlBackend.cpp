@@ -1,0 +1,210 @@
+#include "SdlBackend.h"
+
+#include "core/Utf8.h"
+#include "draw/Screen.h"
+#include "glob/Glob.h"
+#include "glob/GlobManager.h"
+#include "glob/InputDispatcher.h"
+#include "glob/Messaging.h"
+
+#include <SDL.h>
+
+#include <chrono>
+
+struct SdlBackend::Impl {
+    SDL_Window* window = nullptr;
+    SDL_Renderer* renderer = nullptr;
+    SDL_Texture* texture = nullptr;
+    int texW = 0, texH = 0;
+    SDL_Cursor* cursors[9] = {};
+    MouseCursorID cursor = kCursorArrow;
+    std::chrono::steady_clock::time_point nextTick = std::chrono::steady_clock::now();
+};
+
+namespace {
+
+int mapKey(SDL_Keycode k) {
+    switch (k) {
+    case SDLK_LEFT: return Keys::Left;
+    case SDLK_RIGHT: return Keys::Right;
+    case SDLK_UP: return Keys::Up;
+    case SDLK_DOWN: return Keys::Down;
+    case SDLK_HOME: return Keys::Home;
+    case SDLK_END: return Keys::End;
+    case SDLK_PAGEUP: return Keys::PageUp;
+    case SDLK_PAGEDOWN: return Keys::PageDown;
+    case SDLK_INSERT: return Keys::Insert;
+    case SDLK_KP_ENTER: return Keys::KeypadEnter;
+    case SDLK_RETURN: return Keys::Return;
+    case SDLK_ESCAPE: return Keys::Escape;
+    case SDLK_BACKSPACE: return Keys::Backspace;
+    case SDLK_TAB: return Keys::Tab;
+    case SDLK_DELETE: return Keys::Delete;
+    default: break;
+    }
+    if (k >= SDLK_F1 && k <= SDLK_F12) return Keys::F1 + (k - SDLK_F1);
+    // Printable keys: SDL names them by their Unicode value.
+    return (k & SDLK_SCANCODE_MASK) ? 0 : static_cast<int>(k);
+}
+
+unsigned mapModifiers(Uint16 m) {
+    unsigned r = 0;
+    if (m & KMOD_SHIFT) r |= Modifiers::Shift;
+    if (m & KMOD_CTRL) r |= Modifiers::Control;
+    if (m & KMOD_ALT) r |= Modifiers::Alt;
+    if (m & KMOD_GUI) r |= Modifiers::Meta;
+    return r;
+}
+
+Event::Button mapButton(Uint8 b) {
+    switch (b) {
+    case SDL_BUTTON_LEFT: return Event::kLeft;
+    case SDL_BUTTON_MIDDLE: return Event::kMiddle;
+    case SDL_BUTTON_RIGHT: return Event::kRight;
+    default: return Event::kNoButton;
+    }
+}
+
+} // namespace
+
+SdlBackend::SdlBackend() : impl_(std::make_unique<Impl>()) {}
+
+SdlBackend::~SdlBackend() {
+    for (SDL_Cursor* c : impl_->cursors)
+        if (c) SDL_FreeCursor(c);
+    if (impl_->texture) SDL_DestroyTexture(impl_->texture);
+    if (impl_->renderer) SDL_DestroyRenderer(impl_->renderer);
+    if (impl_->window) {
+        SDL_DestroyWindow(impl_->window);
+        SDL_Quit();
+    }
+}
+
+bool SdlBackend::displayAvailable() {
+    if (!SDL_getenv("DISPLAY") && !SDL_getenv("WAYLAND_DISPLAY")) return false;
+    if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) return false;
+    SDL_QuitSubSystem(SDL_INIT_VIDEO);
+    return true;
+}
+
+bool SdlBackend::isOpen() const { return impl_->window != nullptr; }
+
+bool SdlBackend::open(const char* title) {
+    if (impl_->window) return true;
+    if (SDL_Init(SDL_INIT_VIDEO) != 0) return false;
+    Screen& screen = GlobManager::instance().screen();
+    impl_->window = SDL_CreateWindow(title, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, screen.width(), screen.height(),
+                                     SDL_WINDOW_RESIZABLE);
+    if (!impl_->window) {
+        SDL_Quit();
+        return false;
+    }
+    impl_->renderer = SDL_CreateRenderer(impl_->window, -1, 0);
+    if (!impl_->renderer) impl_->renderer = SDL_CreateRenderer(impl_->window, -1, SDL_RENDERER_SOFTWARE);
+    static const SDL_SystemCursor shapes[9] = {SDL_SYSTEM_CURSOR_ARROW,  SDL_SYSTEM_CURSOR_IBEAM,  SDL_SYSTEM_CURSOR_HAND,
+                                               SDL_SYSTEM_CURSOR_CROSSHAIR, SDL_SYSTEM_CURSOR_SIZEALL, SDL_SYSTEM_CURSOR_SIZEWE,
+                                               SDL_SYSTEM_CURSOR_SIZENS, SDL_SYSTEM_CURSOR_WAIT,  SDL_SYSTEM_CURSOR_NO};
+    for (int i = 0; i < 9; ++i) impl_->cursors[i] = SDL_CreateSystemCursor(shapes[i]);
+    SDL_StartTextInput();
+    setUIThread();
+    GlobManager::instance().screenChanged();
+    return impl_->renderer != nullptr;
+}
+
+Event SdlBackend::translate(const void* raw, int screenHeight) {
+    const SDL_Event& e = *static_cast<const SDL_Event*>(raw);
+    auto at = [screenHeight](int x, int y) { return XY<int>(x, screenHeight - 1 - y); };
+    switch (e.type) {
+    case SDL_MOUSEMOTION: return Event::mouse(Event::kMouseMove, at(e.motion.x, e.motion.y), Event::kNoButton, mapModifiers(SDL_GetModState()));
+    case SDL_MOUSEBUTTONDOWN:
+    case SDL_MOUSEBUTTONUP: {
+        Event m = Event::mouse(e.type == SDL_MOUSEBUTTONDOWN ? Event::kMouseDown : Event::kMouseUp, at(e.button.x, e.button.y),
+                               mapButton(e.button.button), mapModifiers(SDL_GetModState()));
+        return m.button() == Event::kNoButton ? Event() : m;
+    }
+    case SDL_MOUSEWHEEL: {
+        int x = 0, y = 0;
+        SDL_GetMouseState(&x, &y);
+        return Event::wheel(at(x, y), e.wheel.y, mapModifiers(SDL_GetModState()));
+    }
+    case SDL_KEYDOWN:
+    case SDL_KEYUP: {
+        int key = mapKey(e.key.keysym.sym);
+        if (!key) return Event();
+        return Event::key(e.type == SDL_KEYDOWN ? Event::kKeyPress : Event::kKeyRelease, key, mapModifiers(e.key.keysym.mod));
+    }
+    case SDL_TEXTINPUT: return Event::text(fromUTF8(e.text.text));
+    default: return Event();
+    }
+}
+
+void SdlBackend::handle(const void* raw) {
+    const SDL_Event& e = *static_cast<const SDL_Event*>(raw);
+    GlobManager& gm = GlobManager::instance();
+    if (e.type == SDL_QUIT) {
+        quitting_ = true;
+        return;
+    }
+    if (e.type == SDL_WINDOWEVENT && e.window.event == SDL_WINDOWEVENT_SIZE_CHANGED) {
+        gm.screen().resize(e.window.data1, e.window.data2);
+        gm.screenChanged();
+        return;
+    }
+    if (e.type == SDL_WINDOWEVENT && e.window.event == SDL_WINDOWEVENT_EXPOSED) {
+        gm.screenChanged();
+        return;
+    }
+    Event t = translate(&e, gm.screen().height());
+    if (t.type() != Event::kNone) gm.dispatch(t);
+}
+
+void SdlBackend::updateCursor() {
+    Glob* hover = GlobManager::instance().input().hover();
+    MouseCursorID id = hover ? hover->contextCursor(hover->screenXYToGlobXY(GlobManager::instance().input().mousePos())) : kCursorArrow;
+    if (id == impl_->cursor || id < 0 || id > 8) return;
+    impl_->cursor = id;
+    if (impl_->cursors[id]) SDL_SetCursor(impl_->cursors[id]);
+}
+
+void SdlBackend::present() {
+    GlobManager& gm = GlobManager::instance();
+    if (!gm.compose()) return;
+    Screen& s = gm.screen();
+    if (!impl_->texture || impl_->texW != s.width() || impl_->texH != s.height()) {
+        if (impl_->texture) SDL_DestroyTexture(impl_->texture);
+        impl_->texture = SDL_CreateTexture(impl_->renderer, SDL_PIXELFORMAT_ARGB8888, SDL_TEXTUREACCESS_STREAMING, s.width(), s.height());
+        impl_->texW = s.width();
+        impl_->texH = s.height();
+    }
+    if (!impl_->texture) return;
+    SDL_UpdateTexture(impl_->texture, nullptr, s.data(), s.stride());
+    SDL_RenderClear(impl_->renderer);
+    SDL_RenderCopy(impl_->renderer, impl_->texture, nullptr, nullptr);
+    SDL_RenderPresent(impl_->renderer);
+}
+
+void SdlBackend::runOnce(int waitMs) {
+    SDL_Event e;
+    if (SDL_WaitEventTimeout(&e, waitMs)) {
+        handle(&e);
+        while (SDL_PollEvent(&e)) handle(&e);
+    }
+    GlobManager& gm = GlobManager::instance();
+    gm.processPending();
+    auto now = std::chrono::steady_clock::now();
+    if (now >= impl_->nextTick) {
+        gm.tickTimers();
+        impl_->nextTick = now + std::chrono::milliseconds(gm.timerPeriodMs());
+    }
+    updateCursor();
+    present();
+}
+
+void SdlBackend::run(bool untilNoGlobs) {
+    if (!isOpen()) return;
+    quitting_ = false;
+    while (!quitting_) {
+        runOnce(10);
+        if (untilNoGlobs && GlobManager::instance().roots().empty()) break;
+    }
+}
