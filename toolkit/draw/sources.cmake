@@ -4,4 +4,8 @@ list(APPEND GLOBKIT_SOURCES
   draw/FontDesc.cpp
   draw/Screen.cpp
   draw/StateSaver.cpp
+  draw/WordWrappingTextRenderer.cpp
+  draw/HTMLParser.cpp
+  draw/HTMLRenderer.cpp
+  draw/HTMLUtils.cpp
 )

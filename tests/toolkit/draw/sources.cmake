@@ -2,4 +2,8 @@ list(APPEND GLOBKIT_TEST_SOURCES
   toolkit/draw/CanvasTest.cpp
   toolkit/draw/PanelPaintingTest.cpp
   toolkit/draw/TextTest.cpp
+  toolkit/draw/HTMLParseTest.cpp
+  toolkit/draw/HTMLRendererTest.cpp
+  toolkit/draw/HTMLUtilsTest.cpp
+  toolkit/draw/WordWrappingTextRendererTest.cpp
 )
