@@ -48,9 +48,10 @@ public:
     view_type view() const noexcept { return rep_ ? view_type(rep_->str) : view_type(); }
     operator view_type() const noexcept { return view(); }
     std::basic_string<C> str() const { return std::basic_string<C>(view()); }
-    C operator[](size_type i) const noexcept { return rep_->str[i]; }
-    C front() const noexcept { return rep_->str.front(); }
-    C back() const noexcept { return rep_->str.back(); }
+    // Reading past the end gives the null character, as at the end of a C string.
+    C operator[](size_type i) const noexcept { return i < size() ? rep_->str[i] : C(); }
+    C front() const noexcept { return (*this)[0]; }
+    C back() const noexcept { return empty() ? C() : rep_->str.back(); }
     const C* begin() const noexcept { return c_str(); }
     const C* end() const noexcept { return c_str() + size(); }
     // True when both strings share one record: copies do until one of them is written.

@@ -66,8 +66,9 @@ private:
         if (count_) count_->addRef();
     }
     static RefCountBase* makeCount(T* object) {
-        if constexpr (std::is_base_of_v<InternalRefCount, T>)
-            return static_cast<InternalRefCount*>(object);
+        using Mutable = std::remove_const_t<T>;
+        if constexpr (std::is_base_of_v<InternalRefCount, Mutable>)
+            return static_cast<InternalRefCount*>(const_cast<Mutable*>(object));
         else
             return new ExternalRefCount<T>(object);
     }

@@ -9,6 +9,7 @@
 class CanvasRenderer {
 public:
     explicit CanvasRenderer(Canvas* canvas) : canvas_(canvas) {}
+    Canvas* canvas() const { return canvas_; }
 
     void render(const Glib::RectDescription& r) const;
     void render(const Glib::LineDescription& l) const;

@@ -9,7 +9,7 @@ const std::array<const char*, 18> kOriginNames = {
     "LeftCentre",      "RightCentre",     "BottomCentre", "TopCentre",     "UserBottomLeft",    "UserBottomRight",
     "UserTopLeft",     "UserTopRight",    "UserCentre",   "UserBottomCentre", "UserTopCentre", "None",
 };
-const std::array<const char*, 4> kRelativityNames = {"Above", "Below", "LeftOf", "RightOf"};
+const std::array<const char*, 5> kRelativityNames = {"Above", "Below", "LeftOf", "RightOf", "None"};
 
 // Aligns a length `len` along [lo, hi) as `a` says.
 int align(int len, int lo, int hi, eWidgetAlignment a) {
@@ -79,7 +79,7 @@ LightweightString<char> asString(eCoordinateOrigin origin) {
 
 LightweightString<char> asString(eWidgetRelativity relativity) {
     auto i = static_cast<std::size_t>(relativity);
-    return i < kRelativityNames.size() ? kRelativityNames[i] : "Below";
+    return i < kRelativityNames.size() ? kRelativityNames[i] : "None";
 }
 
 eCoordinateOrigin CoordinateOriginFromString(const LightweightString<char>& text) {
@@ -91,5 +91,5 @@ eCoordinateOrigin CoordinateOriginFromString(const LightweightString<char>& text
 eWidgetRelativity WidgetRelativityFromString(const LightweightString<char>& text) {
     for (std::size_t i = 0; i < kRelativityNames.size(); ++i)
         if (text == kRelativityNames[i]) return static_cast<eWidgetRelativity>(i);
-    return kBelow;
+    return kNoRelativity;
 }

@@ -31,7 +31,8 @@ enum eCoordinateOrigin {
     kNoPosition = 17,
 };
 
-enum eWidgetRelativity { kAbove = 0, kBelow = 1, kLeftOf = 2, kRightOf = 3 };
+// 4 says no side was chosen.
+enum eWidgetRelativity { kAbove = 0, kBelow = 1, kLeftOf = 2, kRightOf = 3, kNoRelativity = 4 };
 
 // For Above and Below: 0 lines up left edges, 1 centres, 2 lines up right edges.
 // For LeftOf and RightOf: 0 lines up bottom edges, 1 centres, 2 lines up top edges.
@@ -64,6 +65,6 @@ BoxInt placeBeside(XY<int> size, const BoxInt& sibling, const SiblingRelativePos
 
 LightweightString<char> asString(eCoordinateOrigin origin);
 LightweightString<char> asString(eWidgetRelativity relativity);
-// Unknown words give kNoPosition and kBelow.
+// Unknown words give kNoPosition and kNoRelativity.
 eCoordinateOrigin CoordinateOriginFromString(const LightweightString<char>& text);
 eWidgetRelativity WidgetRelativityFromString(const LightweightString<char>& text);

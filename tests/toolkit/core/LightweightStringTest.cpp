@@ -32,8 +32,12 @@ TEST(LightweightString, NullRecordIsTheEmptyString) {
     EXPECT_EQ(none, LightweightString<wchar_t>(L""));
     EXPECT_TRUE(LightweightString<char>(static_cast<const char*>(nullptr)).empty());
     EXPECT_EQ(none.substr(3), LightweightString<wchar_t>());
+    EXPECT_EQ(none[0], L'\0');
+    EXPECT_EQ(none.front(), L'\0');
+    EXPECT_EQ(none.back(), L'\0');
     none += L"x";
     EXPECT_EQ(none, L"x");
+    EXPECT_EQ(none[1], L'\0');
 }
 
 TEST(LightweightString, CompareTreatsNullAsEmpty) {

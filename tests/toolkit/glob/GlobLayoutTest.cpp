@@ -150,7 +150,7 @@ TEST_F(GlobLayout, BadSizesAndPositionsDegrade) {
 
 TEST_F(GlobLayout, CoordinateOriginAndRelativityWordsRoundTrip) {
     for (int i = 0; i <= kNoPosition; ++i) EXPECT_EQ(CoordinateOriginFromString(asString(static_cast<eCoordinateOrigin>(i))), i);
-    for (int i = 0; i <= kRightOf; ++i) EXPECT_EQ(WidgetRelativityFromString(asString(static_cast<eWidgetRelativity>(i))), i);
+    for (int i = 0; i <= kNoRelativity; ++i) EXPECT_EQ(WidgetRelativityFromString(asString(static_cast<eWidgetRelativity>(i))), i);
     EXPECT_EQ(CoordinateOriginFromString("sideways"), kNoPosition);
-    EXPECT_EQ(WidgetRelativityFromString(""), kBelow);
+    EXPECT_EQ(WidgetRelativityFromString(""), kNoRelativity);
 }
