@@ -2,9 +2,9 @@
 
 #include "core/UIString.h"
 
-// Resource strings: a table of ids to texts per language, English first. A text
-// may hold "%s"-style slots that `format` chooses among; an unknown id gives the
-// empty string.
+// Resource strings: a table of ids to texts per language, English filling the
+// gaps of any other. Format 0 gives the text as it is, 1 with a leading capital.
+// An unknown id gives the empty string.
 LightweightString<wchar_t> resourceStrW(ResId id);
 LightweightString<wchar_t> resourceStrW(ResId id, ResStrFmt format);
 // The text with ".." appended.

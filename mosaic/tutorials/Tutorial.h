@@ -1,0 +1,121 @@
+#pragma once
+
+#include "core/LightweightString.h"
+#include "core/Ptr.h"
+#include "core/XY.h"
+#include "glob/WidgetPosition.h"
+#include "platform/iPersistable.h"
+
+#include <vector>
+
+// A tutorial document: phases that say where a pointer goes on the screen, what
+// message is shown and which user action ends the phase, and the layout of the
+// interface it was made on. It reads and writes itself as one JSON file. Reading
+// and writing are deliberately not mirror images (see the parts' read and write).
+// The player that runs a tutorial belongs to the application.
+class Tutorial : public JSON::iPersistable {
+public:
+    // A position of −1234 means none.
+    static constexpr double kNoCoordinate = -1234.0;
+
+    struct UIComponent {
+        LightweightString<char> type;
+        XY<double> position;
+        XY<double> initialPosition; // a copy of position made on reading; never written
+        XY<double> size;
+    };
+
+    // Where the pointer goes: a position, or a named component. Coordinates win
+    // over a target when written; a target wins when read.
+    class Pointer : public JSON::iPersistable {
+    public:
+        double x = kNoCoordinate, y = kNoCoordinate;
+        LightweightString<wchar_t> target;
+
+        bool valid() const { return x != kNoCoordinate || !target.empty(); }
+        // The target, or a single comma when there is none.
+        LightweightString<wchar_t> getDisplayString() const;
+        void write(JSON::Builder& b) const override;
+        int read(const Zn::Ptr<JSON::Element>& e) override;
+    };
+
+    // What is said: beside a target on a side, or at a place on the screen.
+    class Message : public JSON::iPersistable {
+    public:
+        LightweightString<wchar_t> text;
+        eCoordinateOrigin origin = kSiblingRelative;
+        LightweightString<wchar_t> target;
+        eWidgetRelativity relativity = kNoRelativity;
+
+        bool valid() const { return !text.empty(); }
+        void write(JSON::Builder& b) const override;
+        int read(const Zn::Ptr<JSON::Element>& e) override;
+    };
+
+    // What the phase waits for: an event's name and the modifier keys held.
+    class Action : public JSON::iPersistable {
+    public:
+        enum Modifier : unsigned { kShift = 0x1000000, kCtrl = 0x2000000, kCmd = 0x100000, kAlt = 0x4000000 };
+        LightweightString<char> event;
+        unsigned modifiers = 0;
+
+        bool valid() const { return !event.empty(); }
+        // The file's name of one modifier bit; empty for anything else.
+        static LightweightString<char> asString(unsigned int bit);
+        void write(JSON::Builder& b) const override;
+        int read(const Zn::Ptr<JSON::Element>& e) override;
+    };
+
+    class Phase : public JSON::iPersistable {
+    public:
+        Pointer pointer;
+        Message message;
+        Action action;
+        float pause = 0.0f;
+
+        void write(JSON::Builder& b) const override;
+        int read(const Zn::Ptr<JSON::Element>& e) override;
+    };
+
+    Tutorial() = default;
+    // An empty document, then load(path).
+    explicit Tutorial(const LightweightString<wchar_t>& path);
+    // Copies everything but shares no phase with the source.
+    Tutorial(const Tutorial& other);
+    Tutorial& operator=(const Tutorial&) = delete;
+
+    // Reads the file; a file that does not parse leaves the document as it was, with the path set.
+    void load(const LightweightString<wchar_t>& path);
+    // Writes the file through a temporary file renamed over the old one.
+    void save(const LightweightString<wchar_t>& path);
+    void write(JSON::Builder& b) const override;
+    // Appends what the element holds: reading twice appends twice.
+    int read(const Zn::Ptr<JSON::Element>& e) override;
+
+    // The file name without its folder.
+    LightweightString<wchar_t> getID() const;
+    const LightweightString<wchar_t>& getPath() const { return path_; }
+    const LightweightString<wchar_t>& getName() const { return name_; }
+    void setName(const LightweightString<wchar_t>& n) { name_ = n; }
+    const LightweightString<wchar_t>& getCategory() const { return category_; }
+    void setCategory(const LightweightString<wchar_t>& c) { category_ = c; }
+
+    std::size_t getNumPhases() const { return phases_.size(); }
+    Zn::Ptr<Phase> getPhase(unsigned short index);
+    Zn::Ptr<const Phase> getPhase(unsigned short index) const;
+    void addPhase(const Zn::Ptr<Phase>& phase);
+    // Removes the first entry that is this very object; a copy removes nothing.
+    void removePhase(const Zn::Ptr<Phase>& phase);
+
+    const std::vector<UIComponent>& getComponents() const { return components_; }
+    void addComponent(const UIComponent& c) { components_.push_back(c); }
+    // The position of the last component of that type; (0, 0) when there is none.
+    XY<double> getComponentPosition(const LightweightString<char>& type, float unused = 0.0f) const;
+
+private:
+    std::vector<Zn::Ptr<Phase>> phases_;
+    LightweightString<wchar_t> name_;
+    LightweightString<wchar_t> category_;
+    LightweightString<wchar_t> path_;
+    std::vector<UIComponent> components_;
+};

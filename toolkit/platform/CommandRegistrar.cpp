@@ -1,0 +1,48 @@
+#include "CommandRegistrar.h"
+
+#include <map>
+#include <mutex>
+
+namespace {
+struct Table {
+    std::mutex lock;
+    std::map<LightweightString<char>, CommandRegistrar::Command> commands;
+};
+Table& table() {
+    static Table* t = new Table; // commands may run during static destruction
+    return *t;
+}
+} // namespace
+
+CommandRegistrar::CommandRegistrar(const char* name, Command command) { add(name, std::move(command)); }
+
+void CommandRegistrar::add(const LightweightString<char>& name, Command command) {
+    if (name.empty() || !command) return;
+    std::lock_guard<std::mutex> g(table().lock);
+    table().commands[name] = std::move(command);
+}
+
+bool CommandRegistrar::invoke(const LightweightString<char>& name, const Zn::Ptr<iObject>& argument) {
+    Command c;
+    {
+        std::lock_guard<std::mutex> g(table().lock);
+        auto it = table().commands.find(name);
+        if (it == table().commands.end()) return false;
+        c = it->second;
+    }
+    // Run outside the lock: a command may register or invoke others.
+    c(argument);
+    return true;
+}
+
+bool CommandRegistrar::exists(const LightweightString<char>& name) {
+    std::lock_guard<std::mutex> g(table().lock);
+    return table().commands.count(name) != 0;
+}
+
+std::vector<LightweightString<char>> CommandRegistrar::names() {
+    std::lock_guard<std::mutex> g(table().lock);
+    std::vector<LightweightString<char>> out;
+    for (const auto& [name, c] : table().commands) out.push_back(name);
+    return out;
+}
