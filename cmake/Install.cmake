@@ -18,3 +18,5 @@ install(FILES ${CMAKE_BINARY_DIR}/MosaicConfig.cmake ${CMAKE_BINARY_DIR}/MosaicC
 
 configure_file(cmake/mosaic.pc.in ${CMAKE_BINARY_DIR}/mosaic.pc @ONLY)
 install(FILES ${CMAKE_BINARY_DIR}/mosaic.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+install(DIRECTORY resources/ DESTINATION ${CMAKE_INSTALL_DATADIR}/mosaic)

@@ -2,6 +2,10 @@
 
 #include "core/Utf8.h"
 #include "glob/UifStd.h"
+#include "platform/Configuration.h"
+#include "platform/Paths.h"
+
+#include <cstdlib>
 
 #include <algorithm>
 #include <cmath>
@@ -128,3 +132,10 @@ int getDefaultFontSize() { return static_cast<int>(std::lround(13 * UifStd::inst
 LightweightString<char> getZnUtilityFontName() { return getDefaultFontName(1); }
 
 int getZnUtilityFontSize(float scale) { return std::max(1, static_cast<int>(std::lround(11 * UifStd::instance().getScale() * scale))); }
+
+LightweightString<wchar_t> getIconPath(const LightweightString<wchar_t>& name) {
+    if (name.empty() || name.find(L'/') != LightweightString<wchar_t>::npos) return {};
+    LightweightString<wchar_t> base = fromUTF8(Configuration::resourcesFolder());
+    LightweightString<wchar_t> path = joinPaths(joinPaths(base, L"icons"), getExtension(name).empty() ? name + L".png" : name);
+    return fileExists(path) ? path : LightweightString<wchar_t>();
+}

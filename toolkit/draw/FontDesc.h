@@ -57,3 +57,6 @@ LightweightString<char> getDefaultFontName(unsigned index = 0);
 int getDefaultFontSize();
 LightweightString<char> getZnUtilityFontName();
 int getZnUtilityFontSize(float scale = 1.0f);
+// The full path of a shipped icon ("name.png" under the resources' icons folder),
+// or the empty string when there is no such icon.
+LightweightString<wchar_t> getIconPath(const LightweightString<wchar_t>& name);

@@ -1,5 +1,7 @@
 #include "UifStd.h"
 
+#include "platform/Configuration.h"
+
 #include <cmath>
 
 UifStd& UifStd::instance() {
@@ -7,7 +9,8 @@ UifStd& UifStd::instance() {
     return s;
 }
 
-UifStd::UifStd() {}
+// The scale comes from the configuration key "ui_scale_percent" (100 by default).
+UifStd::UifStd() { setScale(config_int("ui_scale_percent", 100) / 100.0); }
 
 int UifStd::scaled(int base) const { return static_cast<int>(std::lround(base * scale_)); }
 

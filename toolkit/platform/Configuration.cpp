@@ -1,6 +1,7 @@
 #include "Configuration.h"
 
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <mutex>
@@ -79,6 +80,13 @@ LightweightString<char> settingsFolder() {
     if (const char* xdg = std::getenv("XDG_CONFIG_HOME"); xdg && *xdg) return LightweightString<char>(xdg) + "/mosaic";
     const char* home = std::getenv("HOME");
     return LightweightString<char>(home && *home ? home : "/tmp") + "/.config/mosaic";
+}
+
+LightweightString<char> resourcesFolder() {
+    if (const char* dir = std::getenv("MOSAIC_RESOURCES"); dir && *dir) return dir;
+    std::error_code ec;
+    if (std::filesystem::is_directory(MOSAIC_SOURCE_DIR "/resources", ec)) return MOSAIC_SOURCE_DIR "/resources";
+    return MOSAIC_INSTALL_DATADIR;
 }
 
 } // namespace Configuration

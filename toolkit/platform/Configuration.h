@@ -13,4 +13,7 @@ namespace Configuration {
 void reload();
 // The folder of the user's settings: $MOSAIC_HOME, else $XDG_CONFIG_HOME/mosaic, else ~/.config/mosaic.
 LightweightString<char> settingsFolder();
+// The folder of the shipped resources (strings, icons): $MOSAIC_RESOURCES, else the
+// source tree's when it is there, else the installed one.
+LightweightString<char> resourcesFolder();
 } // namespace Configuration

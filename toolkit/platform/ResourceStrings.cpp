@@ -1,5 +1,6 @@
 #include "ResourceStrings.h"
 
+#include "Configuration.h"
 #include "core/Utf8.h"
 
 #include <cstdlib>
@@ -40,12 +41,10 @@ bool readTable(const LightweightString<char>& path, Table& out) {
     return true;
 }
 
-// The strings shipped with the toolkit, read at first use: from $MOSAIC_RESOURCES/strings,
-// else from the source tree's resources.
+// The strings shipped with the toolkit, read at first use.
 void loadShipped(Store& s) {
     s.shippedLoaded = true;
-    const char* dir = std::getenv("MOSAIC_RESOURCES");
-    LightweightString<char> base = dir && *dir ? LightweightString<char>(dir) : LightweightString<char>(MOSAIC_SOURCE_DIR "/resources");
+    LightweightString<char> base = Configuration::resourcesFolder();
     Table en;
     if (readTable(base + "/strings/en.json", en))
         for (auto& [id, text] : en) s.languages["en"].emplace(id, text);

@@ -52,3 +52,12 @@ TEST(Text, DrawnTextStaysInItsBoxAndFollowsAlignment) {
     r.render(Glib::TextDescription(BoxInt(0, 10, 100, 30), odd, Glib::getDefaultFont(), Colour(1, 1, 1)));
     EXPECT_GT(inkColumns(0, 100), 3);
 }
+
+TEST(Icons, ShippedIconsAreFoundAndOthersAreNot) {
+    LightweightString<wchar_t> close = getIconPath(L"close");
+    EXPECT_TRUE(close.endsWith(L"/icons/close.png"));
+    EXPECT_EQ(getIconPath(L"close.png"), close);
+    EXPECT_TRUE(getIconPath(L"no-such-icon").empty());
+    EXPECT_TRUE(getIconPath(L"../strings/en.json").empty()) << "names only, no paths";
+    EXPECT_TRUE(getIconPath(L"").empty());
+}

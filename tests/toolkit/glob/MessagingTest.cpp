@@ -97,7 +97,11 @@ TEST_F(Messaging, AMessageToADeadGlobIsDropped) {
     TestKit::pump();
     ASSERT_EQ(survivor->names.size(), 1u);
     EXPECT_EQ(survivor->senders[0], nullptr);
+    // Calling through the dead pointer is the point: the registry answers without touching it.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wuse-after-free"
     EXPECT_EQ(callMessage("x", r), 0);
+#pragma GCC diagnostic pop
     sendMessage("to nobody", nullptr);
     TestKit::pump();
 }
