@@ -1,3 +1,4 @@
 list(APPEND MOSAIC_SOURCES
   tutorials/Tutorial.cpp
+  tutorials/TutorialsManager.cpp
 )

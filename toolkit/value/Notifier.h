@@ -1,0 +1,21 @@
+#pragma once
+
+#include "NotifierBase.h"
+#include "NotifyMsgTypeDictionary.h"
+#include "core/NotifyMsg.h"
+
+// The notifier of named notices. Listeners register under a type (allMsgType hears
+// all); when the notifier dies, each hears notifierGoneMsgType once.
+class Notifier : public GenericNotifier<NotifyMsg> {
+public:
+    ~Notifier() override;
+    Zn::Ptr<Zn::Guard> addListener(const Zn::Ptr<iCallbackBase<int, NotifyMsg>>& callback, int type = NotifyMsgTypeDictionary::instance().allMsgType) {
+        return registerCallback(callback, type);
+    }
+};
+
+// A notifier whose notices can be turned off and on.
+class NotifyWithDisable : public Notifier {
+public:
+    virtual NotifyWithDisable* getNotify() { return this; }
+};

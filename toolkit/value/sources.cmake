@@ -1,0 +1,3 @@
+list(APPEND GLOBKIT_SOURCES
+  value/Notifier.cpp
+)
