@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Builds Mosaic and runs every test: a plain build with warnings as errors, then
 # the same tests under AddressSanitizer with UndefinedBehaviorSanitizer, then under
-# ThreadSanitizer. Set MOSAIC_SKIP_SANITIZERS=1 to run the plain build only.
+# ThreadSanitizer, with each fuzz target run for a minute first. Set MOSAIC_SKIP_SANITIZERS=1
+# to run the plain build only.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/setup.sh
@@ -20,6 +21,17 @@ echo "== plain build =="
 run_suite build -DCMAKE_BUILD_TYPE=RelWithDebInfo
 
 if [ "${MOSAIC_SKIP_SANITIZERS:-0}" != 1 ]; then
+  echo "== fuzz targets, 60 seconds each =="
+  CC=clang CXX=clang++ cmake -S . -B build-fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DMOSAIC_BUILD_FUZZ=ON \
+    -DMOSAIC_BUILD_TESTS=OFF -DMOSAIC_BUILD_BENCH=OFF >/dev/null
+  cmake --build build-fuzz -j "$jobs"
+  for target in tutorial; do
+    corpus=$(mktemp -d)
+    cp fuzz/corpus/$target/* "$corpus"/
+    LSAN_OPTIONS="suppressions=$PWD/scripts/lsan.supp" ./build-fuzz/bin/${target}_fuzz -max_total_time=60 -max_len=4096 \
+      "$corpus" 2>&1 | tail -n 3
+    rm -rf "$corpus"
+  done
   echo "== AddressSanitizer + UndefinedBehaviorSanitizer =="
   ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 LSAN_OPTIONS="suppressions=$PWD/scripts/lsan.supp" UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
     run_suite build-asan -DCMAKE_BUILD_TYPE=Debug -DMOSAIC_ASAN=ON -DMOSAIC_BUILD_BENCH=OFF

@@ -6,22 +6,6 @@
 
 namespace JSON {
 
-Element::Element(const nlohmann::ordered_json& value, const LightweightString<char>& name) : name_(name) {
-    if (!value.is_object() && !value.is_array()) return;
-    for (auto it = value.begin(); it != value.end(); ++it) {
-        LightweightString<char> key = value.is_object() ? LightweightString<char>(it.key()) : LightweightString<char>();
-        const auto& v = it.value();
-        if (v.is_object() || v.is_array())
-            children_.push_back(Zn::Ptr<Element>(new Element(v, key)));
-        else if (v.is_string())
-            strings_.push_back({key, LightweightString<char>(v.get_ref<const std::string&>())});
-        else if (v.is_boolean())
-            bools_.emplace_back(key, v.get<bool>());
-        else if (v.is_number())
-            numericAttribs.push_back({key, v.get<double>()});
-    }
-}
-
 Zn::Ptr<Element> Element::getChild(unsigned short index) const { return index < children_.size() ? children_[index] : Zn::Ptr<Element>(); }
 
 Zn::Ptr<Element> Element::getChild(const char* key) const {

@@ -4,7 +4,6 @@
 #include "core/Ptr.h"
 #include "core/iObject.h"
 
-#include <nlohmann/json.hpp>
 #include <vector>
 
 namespace JSON {
@@ -24,8 +23,8 @@ public:
         LightweightString<char> value;
     };
 
-    // Builds the element from a JSON object or array; any other value gives an empty element.
-    explicit Element(const nlohmann::ordered_json& value, const LightweightString<char>& name = {});
+    // An empty element; the parser fills it.
+    explicit Element(const LightweightString<char>& name) : name_(name) {}
 
     const LightweightString<char>& getName() const { return name_; }
     unsigned short getNumChildren() const { return static_cast<unsigned short>(children_.size()); }
@@ -49,6 +48,7 @@ public:
     std::vector<NumericAttrib> numericAttribs;
 
 private:
+    friend class ElementBuilder;
     LightweightString<char> name_;
     std::vector<Zn::Ptr<Element>> children_;
     std::vector<StringAttrib> strings_;
