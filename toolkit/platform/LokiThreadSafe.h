@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <mutex>
 
 // The locking policy for Loki::SingletonHolder used by the library's singletons:
@@ -8,6 +9,22 @@
 // use under this lock.
 namespace Loki {
 namespace ThreadSafetyTraits {
+
+// The holder checks its instance pointer before taking the lock; a plain volatile
+// pointer makes that check a data race, so the pointer is atomic.
+template <class Host>
+class AtomicValue {
+public:
+    AtomicValue(Host h = Host()) : value_(h) {}
+    operator Host() const { return value_.load(std::memory_order_acquire); }
+    AtomicValue& operator=(Host h) {
+        value_.store(h, std::memory_order_release);
+        return *this;
+    }
+
+private:
+    std::atomic<Host> value_;
+};
 
 template <class Host, class MutexPolicy = std::mutex>
 class ThreadSafe {
@@ -21,7 +38,7 @@ public:
         Lock(const Lock&) = delete;
         Lock& operator=(const Lock&) = delete;
     };
-    using VolatileType = volatile Host;
+    using VolatileType = AtomicValue<Host>;
 
 private:
     static std::recursive_mutex& mutex() {
