@@ -26,7 +26,7 @@ for _ in $(seq 100); do [ -s "$work/roots.txt" ] && break; sleep 0.1; done
 win=""
 for _ in $(seq 50); do win=$(xdotool search --name "Mosaic gallery" 2>/dev/null | head -1) && [ -n "$win" ] && break; sleep 0.1; done
 [ -n "$win" ] || { echo "no gallery window"; cat "$work/err.txt"; exit 1; }
-sleep 0.5
+sleep 1
 eval "$(xdotool getwindowgeometry --shell "$win")"
 ox=$X oy=$Y
 
@@ -34,7 +34,7 @@ ox=$X oy=$Y
 read -r _ _ px py pw _ _ cx cy < <(head -1 "$work/roots.txt")
 tx=$((ox + px + 30)) ty=$((oy + py + 10))
 xdotool mousemove "$tx" "$ty" mousedown 1 mousemove $((tx + 20)) "$ty" mousemove $((tx + 40)) "$ty" mouseup 1
-sleep 0.3
+sleep 0.6
 cx=$((cx + 40))
 
 # Close every panel by its close box; the moved one at its new place.
@@ -42,10 +42,10 @@ first=1
 while read -r _ _ _ _ _ _ _ x y; do
   if [ "$first" = 1 ]; then x=$cx; first=0; fi
   xdotool mousemove $((ox + x)) $((oy + y)) click 1
-  sleep 0.3
+  sleep 0.6
 done <"$work/roots.txt"
 
-for _ in $(seq 50); do kill -0 "$app" 2>/dev/null || break; sleep 0.1; done
+for _ in $(seq 150); do kill -0 "$app" 2>/dev/null || break; sleep 0.1; done
 if kill -0 "$app" 2>/dev/null; then
   echo "the gallery is still running: a close box click did not close its panel"
   exit 1
