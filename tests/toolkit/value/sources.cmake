@@ -1,3 +1,4 @@
 list(APPEND GLOBKIT_TEST_SOURCES
   toolkit/value/NotifierTest.cpp
+  toolkit/value/UIThreadCallbackTest.cpp
 )
