@@ -18,14 +18,16 @@ export DISPLAY=$display
 # The display libraries load drivers at run time that keep allocations to exit;
 # leaks of our own code are the unit tests' business.
 export ASAN_OPTIONS="${ASAN_OPTIONS:-}:detect_leaks=0"
-for _ in $(seq 50); do xdotool getmouselocation >/dev/null 2>&1 && break; sleep 0.1; done
+up=0
+for _ in $(seq 200); do xdotool getmouselocation >/dev/null 2>&1 && up=1 && break; sleep 0.1; done
+[ "$up" = 1 ] || { echo "the virtual display did not start"; cat "$work/xvfb.log"; exit 1; }
 
 MOSAIC_SCREEN_SIZE=800x600 "$gallery" --scene toolkit-demo --print-roots >"$work/roots.txt" 2>"$work/err.txt" &
 app=$!
-for _ in $(seq 100); do [ -s "$work/roots.txt" ] && break; sleep 0.1; done
+for _ in $(seq 200); do [ -s "$work/roots.txt" ] && break; sleep 0.1; done
 win=""
-for _ in $(seq 50); do win=$(xdotool search --name "Mosaic gallery" 2>/dev/null | head -1) && [ -n "$win" ] && break; sleep 0.1; done
-[ -n "$win" ] || { echo "no gallery window"; cat "$work/err.txt"; exit 1; }
+for _ in $(seq 200); do win=$(xdotool search --name "Mosaic gallery" 2>/dev/null | head -1) && [ -n "$win" ] && break; sleep 0.1; done
+[ -n "$win" ] || { echo "no gallery window"; cat "$work/err.txt" "$work/roots.txt"; exit 1; }
 sleep 1
 eval "$(xdotool getwindowgeometry --shell "$win")"
 ox=$X oy=$Y
