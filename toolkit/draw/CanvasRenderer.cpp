@@ -1,14 +1,11 @@
 #include "CanvasRenderer.h"
 
+#include "PangoSupport.h"
 #include "core/Utf8.h"
 
 #include <algorithm>
 #include <cmath>
-#include <pango/pangocairo.h>
 
-namespace Glib {
-PangoFontDescription* makePangoFont(const FontDesc& f);
-}
 
 void CanvasRenderer::setColour(const Colour& c) const {
     cairo_set_source_rgba(canvas_->context(), c.red(), c.green(), c.blue(), c.alpha());

@@ -1,5 +1,6 @@
 #include "FontDesc.h"
 
+#include "PangoSupport.h"
 #include "core/Utf8.h"
 #include "glob/UifStd.h"
 #include "platform/Configuration.h"
@@ -11,14 +12,21 @@
 #include <cmath>
 #include <map>
 #include <mutex>
-#include <pango/pangocairo.h>
 #include <strings.h>
 
 namespace {
 
-// Pango layouts for measuring, from one scratch surface; kept per thread since Pango
-// contexts are not shared across threads.
-PangoContext* measuringContext() {
+struct Metrics {
+    int ascent, descent;
+};
+
+Metrics metricsOf(const Glib::FontDesc& font);
+
+} // namespace
+
+namespace Glib {
+
+PangoContext* layoutContext() {
     thread_local struct Holder {
         cairo_surface_t* surface = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 1, 1);
         cairo_t* cr = cairo_create(surface);
@@ -31,18 +39,6 @@ PangoContext* measuringContext() {
     } holder;
     return holder.ctx;
 }
-
-struct Metrics {
-    int ascent, descent;
-};
-
-Metrics metricsOf(const Glib::FontDesc& font);
-
-} // namespace
-
-namespace Glib {
-
-PangoFontDescription* makePangoFont(const FontDesc& f);
 
 FontDesc FontDesc::resolved() const {
     FontDesc r = *this;
@@ -62,7 +58,7 @@ PangoFontDescription* makePangoFont(const FontDesc& font) {
 }
 
 XY<int> measureText(const LightweightString<wchar_t>& text, const FontDesc& font) {
-    PangoLayout* layout = pango_layout_new(measuringContext());
+    PangoLayout* layout = pango_layout_new(Glib::layoutContext());
     PangoFontDescription* d = makePangoFont(font);
     pango_layout_set_font_description(layout, d);
     LightweightString<char> utf8 = toUTF8(text);
@@ -114,7 +110,7 @@ Metrics metricsOf(const Glib::FontDesc& font) {
         if (it != cache.end()) return it->second;
     }
     PangoFontDescription* d = Glib::makePangoFont(f);
-    PangoFontMetrics* m = pango_context_get_metrics(measuringContext(), d, nullptr);
+    PangoFontMetrics* m = pango_context_get_metrics(Glib::layoutContext(), d, nullptr);
     Metrics r{PANGO_PIXELS_CEIL(pango_font_metrics_get_ascent(m)), PANGO_PIXELS_CEIL(pango_font_metrics_get_descent(m))};
     pango_font_metrics_unref(m);
     pango_font_description_free(d);

@@ -1,16 +1,13 @@
 #include "HTMLRenderer.h"
 
+#include "PangoSupport.h"
 #include "HTMLParser.h"
 #include "WordWrappingTextRenderer.h"
 
 #include <algorithm>
 #include <cmath>
-#include <pango/pangocairo.h>
 #include <string>
 
-namespace Glib {
-PangoFontDescription* makePangoFont(const FontDesc& f);
-}
 
 namespace {
 

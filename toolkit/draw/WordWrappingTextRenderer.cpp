@@ -1,35 +1,15 @@
 #include "WordWrappingTextRenderer.h"
 
+#include "PangoSupport.h"
 #include "Canvas.h"
 #include "core/Utf8.h"
 
 #include <algorithm>
 #include <cmath>
-#include <pango/pangocairo.h>
 #include <utility>
 
-namespace Glib {
-PangoFontDescription* makePangoFont(const FontDesc& f);
-}
 
 namespace {
-
-// Every layout is made on this context, whether it is measured or drawn, so that
-// a count of lines always matches what is painted. Per thread: Pango contexts are
-// not to be shared between threads.
-PangoContext* layoutContext() {
-    thread_local struct Holder {
-        cairo_surface_t* surface = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 1, 1);
-        cairo_t* cr = cairo_create(surface);
-        PangoContext* ctx = pango_cairo_create_context(cr);
-        ~Holder() {
-            g_object_unref(ctx);
-            cairo_destroy(cr);
-            cairo_surface_destroy(surface);
-        }
-    } holder;
-    return holder.ctx;
-}
 
 PangoAlignment pangoAlignment(int align) {
     if (align == Glib::kAlignCentreH) return PANGO_ALIGN_CENTER;
@@ -142,7 +122,7 @@ void WordWrappingTextRenderer::renderString(Canvas* canvas, const LightweightStr
 }
 
 PangoLayout* WordWrappingTextRenderer::createLayout(int width, int align) {
-    PangoLayout* layout = pango_layout_new(layoutContext());
+    PangoLayout* layout = pango_layout_new(Glib::layoutContext());
     pango_layout_set_wrap(layout, PANGO_WRAP_WORD_CHAR);
     // Far wider than any screen, and still clear of overflow once in Pango units.
     constexpr int kWidest = 1 << 20;

@@ -27,13 +27,16 @@ Glob* InputDispatcher::focus() const { return focus_.get(); }
 Glob* InputDispatcher::capture() const { return capture_.get(); }
 Glob* InputDispatcher::hover() const { return hover_.get(); }
 
-void InputDispatcher::setFocus(Glob* g) {
-    Glob* old = focus_.get();
+void InputDispatcher::Ref::change(Glob* g, void (Glob::*tell)(bool)) {
+    Glob* old = get();
     if (old == g) return;
-    focus_.set(g);
-    if (old) old->handleKbdFocus(false);
-    if (g && focus_.get() == g) g->handleKbdFocus(true);
+    set(g);
+    if (old) (old->*tell)(false);
+    // The old glob's handler may have moved the reference on, or deleted `g`.
+    if (g && get() == g) (g->*tell)(true);
 }
+
+void InputDispatcher::setFocus(Glob* g) { focus_.change(g, &Glob::handleKbdFocus); }
 
 void InputDispatcher::forget(Glob* g) {
     for (Ref* r : {&focus_, &capture_, &hover_, &moving_, &it_})
@@ -43,12 +46,7 @@ void InputDispatcher::forget(Glob* g) {
 Glob* InputDispatcher::it() const { return it_.get(); }
 
 void InputDispatcher::setIt(Glob* root) {
-    if (!root || !root->canBeIt()) return;
-    Glob* old = it_.get();
-    if (old == root) return;
-    it_.set(root);
-    if (old) old->handle_it(false);
-    if (it_.get() == root) root->handle_it(true);
+    if (root && root->canBeIt()) it_.change(root, &Glob::handle_it);
 }
 
 void InputDispatcher::startMoving(Glob* root, XY<int> grab) {
@@ -121,13 +119,7 @@ Glob* InputDispatcher::bubble(Glob* g, Event e) {
     return nullptr;
 }
 
-void InputDispatcher::updateHover(Glob* g) {
-    Glob* old = hover_.get();
-    if (old == g) return;
-    hover_.set(g);
-    if (old) old->handleMouseContainment(false);
-    if (g && hover_.get() == g) g->handleMouseContainment(true);
-}
+void InputDispatcher::updateHover(Glob* g) { hover_.change(g, &Glob::handleMouseContainment); }
 
 void InputDispatcher::countClicks(Event& e) {
     long long now = steadyMs();

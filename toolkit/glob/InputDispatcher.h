@@ -30,6 +30,8 @@ private:
         IdStamp stamp;
         Glob* get() const;
         void set(Glob* g);
+        // Points at `g`, telling the glob it leaves and the one it reaches.
+        void change(Glob* g, void (Glob::*tell)(bool));
     };
 
     Glob* targetForMouse(const Event& e) const;

@@ -2,7 +2,6 @@
 
 #include "core/Event.h"
 
-#include <condition_variable>
 #include <deque>
 #include <mutex>
 
@@ -24,14 +23,8 @@ public:
     std::size_t takeAll(std::deque<Item>& out);
     bool empty() const;
     std::size_t size() const;
-    // Waits until a message arrives or the timeout passes.
-    void waitFor(int milliseconds);
-    // Wakes a waiter with no message (when the window has input, say).
-    void wake();
 
 private:
     mutable std::mutex lock_;
-    std::condition_variable arrived_;
     std::deque<Item> items_;
-    bool woken_ = false;
 };

@@ -35,43 +35,30 @@ void Builder::add(const char* key, float value) { put(key, value); }
 void Builder::add(const char* key, double value) { put(key, value); }
 void Builder::add(const char* key, bool value) { put(key, value); }
 
-void Builder::startChild(const char* key) {
+void Builder::open(const char* key, nlohmann::ordered_json container) {
     if (!hasRoot_) {
-        root_ = nlohmann::ordered_json::object();
+        root_ = std::move(container);
         hasRoot_ = true;
         return;
     }
     nlohmann::ordered_json* node = current();
     if (node->is_array()) {
-        node->push_back(nlohmann::ordered_json::object());
+        node->push_back(std::move(container));
         path_.emplace_back(std::string(), node->size() - 1);
     } else {
         std::string k = key ? key : "";
-        (*node)[k] = nlohmann::ordered_json::object();
+        (*node)[k] = std::move(container);
         path_.emplace_back(k, 0);
     }
 }
+
+void Builder::startChild(const char* key) { open(key, nlohmann::ordered_json::object()); }
 
 void Builder::endChild() {
     if (!path_.empty()) path_.pop_back();
 }
 
-void Builder::startArray(const char* key) {
-    if (!hasRoot_) {
-        root_ = nlohmann::ordered_json::array();
-        hasRoot_ = true;
-        return;
-    }
-    nlohmann::ordered_json* node = current();
-    if (node->is_array()) {
-        node->push_back(nlohmann::ordered_json::array());
-        path_.emplace_back(std::string(), node->size() - 1);
-    } else {
-        std::string k = key ? key : "";
-        (*node)[k] = nlohmann::ordered_json::array();
-        path_.emplace_back(k, 0);
-    }
-}
+void Builder::startArray(const char* key) { open(key, nlohmann::ordered_json::array()); }
 
 void Builder::endArray() { endChild(); }
 

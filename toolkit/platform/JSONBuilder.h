@@ -41,6 +41,8 @@ public:
 
 private:
     void put(const char* key, nlohmann::ordered_json value);
+    // Opens an object or array under `key`, or as the next element of an open array.
+    void open(const char* key, nlohmann::ordered_json container);
     nlohmann::ordered_json* current();
     std::string dump(int indent) const;
 
