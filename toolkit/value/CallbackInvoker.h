@@ -1,21 +1,27 @@
 #pragma once
 
+#include "DLList.h"
 #include "core/Ptr.h"
 #include "core/iCallbackBase.h"
 
-// One registration with a notifier: the type of notice it wants, and the callback.
-class CallbackInvokerBase {
+// One registration with a notifier: the type of notice it wants. A record that is
+// released while its notifier delivers is only marked, and leaves the list after.
+class CallbackInvokerBase : public DLListRec {
 public:
     explicit CallbackInvokerBase(int type) : type_(type) {}
-    virtual ~CallbackInvokerBase() = default;
     int type() const { return type_; }
     // True when the registration wants a notice of `type`.
     bool typeMatch(int type) const;
 
+    bool released() const { return released_; }
+    void markReleased() { released_ = true; }
+
 private:
     int type_;
+    bool released_ = false;
 };
 
+// A registration that calls back with events of type E.
 template <class E>
 class CallbackInvoker : public CallbackInvokerBase {
 public:

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "NotifierBase.h"
+#include "GenericNotifier.h"
 #include "NotifyMsgTypeDictionary.h"
 #include "core/NotifyMsg.h"
 
@@ -12,10 +12,4 @@ public:
     Zn::Ptr<Zn::Guard> addListener(const Zn::Ptr<iCallbackBase<int, NotifyMsg>>& callback, int type = NotifyMsgTypeDictionary::instance().allMsgType) {
         return registerCallback(callback, type);
     }
-};
-
-// A notifier whose notices can be turned off and on.
-class NotifyWithDisable : public Notifier {
-public:
-    virtual NotifyWithDisable* getNotify() { return this; }
 };

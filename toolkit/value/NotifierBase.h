@@ -2,13 +2,15 @@
 
 #include "CallbackInvoker.h"
 #include "CriticalSection.h"
+#include "DLList.h"
 #include "core/Guard.h"
 
 #include <memory>
-#include <vector>
 
-// The list of registrations of a notifier, under its lock. A registration lasts as
-// long as the guard it returns is held; a guard that outlives the notifier is harmless.
+// The registrations of a notifier, in order, under its lock. A registration lasts
+// as long as the guard it returns is held; a guard that outlives the notifier is
+// harmless. Delivery may nest on one thread: a callback may register, release, or
+// issue again on the same notifier, but not destroy it.
 class NotifierBase {
 public:
     NotifierBase();
@@ -19,37 +21,26 @@ public:
     // Takes ownership of the record.
     Zn::Ptr<Zn::Guard> registerInternal(CallbackInvokerBase* record);
     std::size_t numRegistrations() const;
-    CriticalSection& criticalSection() const { return *lock_; }
+    // Lock-free: a notifier with no registrations builds no event.
+    bool hasRegistrations() const { return !core_->list.empty(); }
+    CriticalSection& criticalSection() const { return core_->lock; }
 
 protected:
-    // Calls `f` on each registration wanting `type`, in order of registration, under the lock.
-    template <class F>
-    void forEachMatching(int type, F&& f) const {
-        std::lock_guard<CriticalSection> g(*lock_);
-        // Registrations added during delivery wait for the next notice; removed ones are skipped.
-        std::vector<std::shared_ptr<CallbackInvokerBase>> now = state_->records;
-        for (const auto& r : now)
-            if (r->typeMatch(type) && state_->isRegistered(r.get())) f(*r);
-    }
+    // Calls `fn` on each registration in order, under the lock. Registrations made
+    // during delivery wait for the next notice; released ones are skipped.
+    void deliver(DLList::ApplyFn fn, void* data) const;
+    // Drops every registration; their guards then do nothing.
+    void dropRegistrations();
 
 private:
-    struct State {
-        std::vector<std::shared_ptr<CallbackInvokerBase>> records;
-        bool isRegistered(const CallbackInvokerBase* r) const;
+    struct Core {
+        CriticalSection lock;
+        DLList list;
+        int depth = 0;
+        bool alive = true;
+        bool anyReleased = false;
+        void release(CallbackInvokerBase* record);
+        void sweep();
     };
-    std::shared_ptr<CriticalSection> lock_;
-    std::shared_ptr<State> state_;
-};
-
-// A notifier of events of type E.
-template <class E>
-class GenericNotifier : public NotifierBase {
-public:
-    Zn::Ptr<Zn::Guard> registerCallback(const Zn::Ptr<iCallbackBase<int, E>>& callback, int type) {
-        return registerInternal(new CallbackInvoker<E>(callback, type));
-    }
-    // Delivers synchronously, on the calling thread, under the notifier's lock.
-    void issueNotification(const E& e, int type) const {
-        forEachMatching(type, [&e](const CallbackInvokerBase& r) { static_cast<const CallbackInvoker<E>&>(r).invoke(e); });
-    }
+    std::shared_ptr<Core> core_;
 };

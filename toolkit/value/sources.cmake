@@ -1,3 +1,7 @@
 list(APPEND GLOBKIT_SOURCES
+  value/DataConvert.cpp
+  value/DLList.cpp
   value/Notifier.cpp
+  value/NotifierBase.cpp
+  value/ValServer.cpp
 )

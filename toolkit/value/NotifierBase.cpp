@@ -1,0 +1,78 @@
+#include "NotifierBase.h"
+
+#include "NotifyMsgTypeDictionary.h"
+
+#include <mutex>
+
+bool CallbackInvokerBase::typeMatch(int type) const {
+    // The notice of a notifier's end reaches everyone.
+    const auto& types = NotifyMsgTypeDictionary::instance();
+    return type_ == type || type_ == types.allMsgType || type == types.notifierGoneMsgType;
+}
+
+void NotifierBase::Core::release(CallbackInvokerBase* record) {
+    if (!alive) return; // the record went with the notifier
+    if (depth > 0) {
+        // Unlinking now would pull the record from under a delivery loop.
+        record->markReleased();
+        anyReleased = true;
+        return;
+    }
+    list.remove(record);
+}
+
+void NotifierBase::Core::sweep() {
+    anyReleased = false;
+    for (DLListRec* r = list.first(); r;) {
+        DLListRec* next = r->next();
+        if (static_cast<CallbackInvokerBase*>(r)->released()) list.remove(r);
+        r = next;
+    }
+}
+
+NotifierBase::NotifierBase() : core_(std::make_shared<Core>()) { core_->list.ownsRecords(true); }
+
+NotifierBase::~NotifierBase() { dropRegistrations(); }
+
+void NotifierBase::dropRegistrations() {
+    std::lock_guard<CriticalSection> g(core_->lock);
+    core_->alive = false;
+    core_->list.clear();
+}
+
+Zn::Ptr<Zn::Guard> NotifierBase::registerInternal(CallbackInvokerBase* record) {
+    std::lock_guard<CriticalSection> g(core_->lock);
+    if (!core_->alive) {
+        delete record;
+        return Zn::Ptr<Zn::Guard>(new Zn::Guard());
+    }
+    core_->list.append(record);
+    // The guard shares the lock and the list, so releasing it after the notifier
+    // died touches nothing dead.
+    std::shared_ptr<Core> core = core_;
+    return Zn::Ptr<Zn::Guard>(new Zn::Guard([core, record] {
+        std::lock_guard<CriticalSection> g2(core->lock);
+        core->release(record);
+    }));
+}
+
+std::size_t NotifierBase::numRegistrations() const {
+    std::lock_guard<CriticalSection> g(core_->lock);
+    std::size_t n = 0;
+    for (DLListRec* r = core_->list.first(); r; r = r->next())
+        if (!static_cast<CallbackInvokerBase*>(r)->released()) ++n;
+    return n;
+}
+
+void NotifierBase::deliver(DLList::ApplyFn fn, void* data) const {
+    Core& c = *core_;
+    std::lock_guard<CriticalSection> g(c.lock);
+    DLListRec* last = c.list.last();
+    if (!last) return;
+    ++c.depth;
+    for (DLListRec* r = c.list.first();; r = r->next()) {
+        if (!static_cast<CallbackInvokerBase*>(r)->released()) fn(r, data);
+        if (r == last) break;
+    }
+    if (--c.depth == 0 && c.anyReleased && c.alive) c.sweep();
+}
