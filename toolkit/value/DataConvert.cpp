@@ -2,8 +2,7 @@
 
 #include "core/Utf8.h"
 
-#include <cerrno>
-#include <cstdio>
+#include <charconv>
 #include <cstdlib>
 #include <cwctype>
 #include <string>
@@ -12,6 +11,16 @@
 namespace {
 
 WString fromAscii(const char* s) { return fromUTF8(s); }
+
+// The shortest text that reads back as the same number, independent of the locale.
+template <class F>
+WString shortest(F f) {
+    if (std::isnan(f)) return fromAscii("nan");
+    char buf[48];
+    auto r = std::to_chars(buf, buf + sizeof buf - 1, f);
+    *r.ptr = '\0';
+    return fromAscii(buf);
+}
 
 // The text without white space at either end, lower-cased, as a narrow string.
 std::string trimmedLower(const WString& s) {
@@ -47,23 +56,13 @@ WString DataConvert::toText(int i) { return fromAscii(std::to_string(i).c_str())
 
 WString DataConvert::toText(unsigned int u) { return fromAscii(std::to_string(u).c_str()); }
 
-WString DataConvert::toText(double d) {
-    if (std::isnan(d)) return fromAscii("nan");
-    if (std::isinf(d)) return fromAscii(d < 0 ? "-inf" : "inf");
-    // The shortest text that reads back as the same number.
-    char buf[40];
-    for (int precision = 6; precision <= 17; ++precision) {
-        std::snprintf(buf, sizeof buf, "%.*g", precision, d);
-        if (std::strtod(buf, nullptr) == d) break;
-    }
-    return fromAscii(buf);
-}
+WString DataConvert::toText(double d) { return shortest(d); }
 
 WString DataConvert::toText(const NormalisedRGB& c) {
     WString out;
     for (float f : {c.r, c.g, c.b, c.a}) {
         if (!out.empty()) out.append(1, L' ');
-        out += toText(static_cast<double>(f));
+        out += shortest(f);
     }
     return out;
 }
@@ -77,21 +76,23 @@ bool DataConvert::boolFromText(const WString& s) {
 
 long long DataConvert::integerFromText(const WString& s) {
     std::string t = trimmedLower(s);
-    char* end = nullptr;
-    errno = 0;
-    long long v = std::strtoll(t.c_str(), &end, 10);
-    if (end && *end == '\0' && errno == 0) return v;
+    const char* first = t.c_str() + (t.size() > 1 && t[0] == '+' ? 1 : 0);
+    long long v = 0;
+    auto r = std::from_chars(first, t.c_str() + t.size(), v);
+    if (r.ec == std::errc() && r.ptr == t.c_str() + t.size()) return v;
     // "2.9" or "1e3" in an integer box: the number, towards zero.
     return truncate<long long>(doubleFromText(s));
 }
 
 double DataConvert::doubleFromText(const WString& s) {
     std::string t = trimmedLower(s);
-    char* end = nullptr;
-    double d = std::strtod(t.c_str(), &end);
-    if (end == t.c_str()) return 0.0;
-    // Leading text that reads as a number counts ("12px" is 12); what follows is dropped.
-    return d;
+    const char* first = t.c_str() + (t.size() > 1 && t[0] == '+' ? 1 : 0);
+    double d = 0.0;
+    // Leading text that reads as a number counts ("12px" is 12); what follows is
+    // dropped. Out of range, the C library's answer (infinity or zero) stands.
+    auto r = std::from_chars(first, t.c_str() + t.size(), d);
+    if (r.ec == std::errc::result_out_of_range) return std::strtod(first, nullptr);
+    return r.ec == std::errc() ? d : 0.0;
 }
 
 NormalisedRGB DataConvert::colourFromText(const WString& s) {
@@ -102,10 +103,14 @@ NormalisedRGB DataConvert::colourFromText(const WString& s) {
         if (ch == ',') ch = ' ';
     std::vector<double> parts;
     const char* p = t.c_str();
-    for (char* end = nullptr; parts.size() < 4; p = end) {
-        double d = std::strtod(p, &end);
-        if (end == p) break;
+    const char* end = p + t.size();
+    while (parts.size() < 4) {
+        while (p < end && *p == ' ') ++p;
+        double d = 0.0;
+        auto r = std::from_chars(p, end, d);
+        if (r.ec != std::errc()) break;
         parts.push_back(d);
+        p = r.ptr;
     }
     if (parts.size() < 3) return NormalisedRGB();
     return NormalisedRGB(unit(parts[0]), unit(parts[1]), unit(parts[2]), parts.size() > 3 ? unit(parts[3]) : 1.0f);

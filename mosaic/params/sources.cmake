@@ -1,0 +1,5 @@
+list(APPEND MOSAIC_SOURCES
+  params/AttribValuePair.cpp
+  params/Param.cpp
+  params/ParamBase.cpp
+)

@@ -1,0 +1,4 @@
+list(APPEND MOSAIC_TEST_SOURCES
+  mosaic/params/ParamTest.cpp
+  mosaic/params/ValueChangeRoadTest.cpp
+)
