@@ -86,6 +86,9 @@ Glob* Glob::addChild(Glob* child, const WidgetPosition& position, WidgetSurround
     children_.push_back(d);
     placeChild(children_.size() - 1);
     handleWidgetAdded(d);
+    // A child added to a panel already on the screen shows at once (or with the
+    // next update, inside a bracket of disabled redraws).
+    if (GlobManager::instance().isRealized(getRootParent(this))) child->redraw();
     return child;
 }
 

@@ -1,4 +1,5 @@
 list(APPEND GLOBKIT_SOURCES
+  glob/fireCallback.cpp
   glob/Drawable.cpp
   glob/EventHandler.cpp
   glob/Glob.cpp

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "Clickable.h"
+#include "core/UIString.h"
+#include "core/WidgetCallback.h"
+#include "draw/FontDesc.h"
+
+// A push button with a text label. A click fires its WidgetCallback: the callback
+// when there is one, otherwise the callback's message to the owner.
+class Button : public Clickable, public Glib::FontUser {
+public:
+    struct InitArgs : GlobCreationInfo {
+        WidgetCallback callback;
+        UIString label;
+        InitArgs() = default;
+        InitArgs(const UIString& label, const WidgetCallback& callback, unsigned short width = 0, unsigned short height = 0)
+            : GlobCreationInfo(width, height), callback(callback), label(label) {}
+    };
+
+    explicit Button(const InitArgs& args);
+    const char* idstring() const override { return "Button"; }
+
+    void setLabel(const UIString& label, eRedrawFlag flag = kRedraw);
+    const UIString& getLabel() const { return label_; }
+    void setCallback(const WidgetCallback& callback) { callback_ = callback; }
+    const WidgetCallback& getCallback() const { return callback_; }
+    // Two style words: 1 in the first is a flat button that shows its face only
+    // when hovered or pressed; the second is kept for the caller.
+    void setStyle(int style, int style2 = 0);
+    int getStyle() const { return style_; }
+    int getStyle2() const { return style2_; }
+
+    // The size that shows `label` in `font` with the usual margins.
+    static XY<int> calcSizeFor(const UIString& label, const Glib::FontDesc& font = {});
+    static int calcWidth(const UIString& label, const Glib::FontDesc& font = {}) { return calcSizeFor(label, font).x; }
+    static int calcHeight();
+
+    void drawBackground() override;
+
+protected:
+    void clicked() override;
+    // The box the label is drawn in; a subclass may keep room for more.
+    virtual BoxInt labelBox() const { return BoxInt(0, 0, width(), height()); }
+    void drawLabel(const UIString& text, const BoxInt& box) const;
+
+private:
+    WidgetCallback callback_;
+    UIString label_;
+    int style_ = 0;
+    int style2_ = 0;
+};
