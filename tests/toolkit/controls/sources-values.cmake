@@ -1,0 +1,4 @@
+list(APPEND GLOBKIT_TEST_SOURCES
+  toolkit/controls/GaugeTest.cpp
+  toolkit/controls/SliderTest.cpp
+)

@@ -1,0 +1,4 @@
+list(APPEND GLOBKIT_SOURCES
+  controls/Gauge.cpp
+  controls/Slider.cpp
+)
