@@ -6,6 +6,7 @@
 #include "glob/GlobManager.h"
 #include "glob/InputDispatcher.h"
 #include "glob/Messaging.h"
+#include "platform/OS.h"
 
 #include <SDL.h>
 
@@ -69,7 +70,20 @@ Event::Button mapButton(Uint8 b) {
 
 SdlBackend::SdlBackend() : impl_(std::make_unique<Impl>()) {}
 
+void SdlBackend::installSystemClipboard() {
+    // Text copied in the editor reaches other programs, and theirs reaches text boxes.
+    OS()->installClipboard([](const LightweightString<wchar_t>& text) { SDL_SetClipboardText(toUTF8(text).c_str()); },
+                          [] {
+                              char* text = SDL_GetClipboardText();
+                              LightweightString<wchar_t> out = fromUTF8(text ? text : "");
+                              SDL_free(text);
+                              return out;
+                          });
+}
+
 SdlBackend::~SdlBackend() {
+    // The window's clipboard goes with the window; the in-process one takes over.
+    if (impl_->window) OS()->installClipboard({}, {});
     for (SDL_Cursor* c : impl_->cursors)
         if (c) SDL_FreeCursor(c);
     if (impl_->texture) SDL_DestroyTexture(impl_->texture);
@@ -106,6 +120,7 @@ bool SdlBackend::open(const char* title) {
                                                SDL_SYSTEM_CURSOR_SIZENS, SDL_SYSTEM_CURSOR_WAIT,  SDL_SYSTEM_CURSOR_NO};
     for (int i = 0; i < 9; ++i) impl_->cursors[i] = SDL_CreateSystemCursor(shapes[i]);
     SDL_StartTextInput();
+    installSystemClipboard();
     setUIThread();
     GlobManager::instance().screenChanged();
     return impl_->renderer != nullptr;

@@ -34,6 +34,7 @@ public:
 private:
     void present();
     void updateCursor();
+    void installSystemClipboard();
     void handle(const void* sdlEvent);
 
     struct Impl;

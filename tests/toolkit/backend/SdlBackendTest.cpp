@@ -1,4 +1,5 @@
 #include "backend/SdlBackend.h"
+#include "platform/OS.h"
 
 #include <SDL.h>
 #include <gtest/gtest.h>
@@ -61,4 +62,22 @@ TEST(SdlBackend, TypedTextArrivesAsWideText) {
     EXPECT_EQ(t.typedText(), L"\u00e9t\u00e9");
     e.type = SDL_FINGERDOWN;
     EXPECT_EQ(translate(e).type(), Event::kNone);
+}
+
+TEST(SdlBackend, AnOpenWindowSharesTheClipboardWithTheSystem) {
+    // SDL's off-screen driver keeps a clipboard of its own, which stands in for the system's.
+    setenv("SDL_VIDEODRIVER", "offscreen", 1);
+    {
+        SdlBackend backend;
+        ASSERT_TRUE(backend.open("clipboard test"));
+        OS()->setClipboardText(L"caf\u00e9 \u2192 clip");
+        char* system = SDL_GetClipboardText();
+        EXPECT_STREQ(system, "caf\xC3\xA9 \xE2\x86\x92 clip");
+        SDL_free(system);
+        SDL_SetClipboardText("from another program");
+        EXPECT_EQ(OS()->getClipboardText(), LightweightString<wchar_t>(L"from another program"));
+    }
+    OS()->setClipboardText(L"in process");
+    EXPECT_EQ(OS()->getClipboardText(), LightweightString<wchar_t>(L"in process")) << "the window's clipboard went with it";
+    unsetenv("SDL_VIDEODRIVER");
 }
