@@ -1,0 +1,7 @@
+list(APPEND GLOBKIT_SOURCES
+  controls/ArrowGlyph.cpp
+  controls/ScrollBar.cpp
+  controls/ScrollList.cpp
+  controls/TreeView.cpp
+  controls/VerticalScrollingBase.cpp
+)
