@@ -25,11 +25,21 @@ XY<int> Button::calcSizeFor(const UIString& label, const Glib::FontDesc& font) {
     return XY<int>(text.x + 4 * u.getWidgetGap(), calcHeight());
 }
 
+void Button::setLatching(bool latching, bool latched) {
+    latching_ = latching;
+    setLatched(latching && latched);
+}
+
+void Button::setLatched(bool latched, eRedrawFlag flag) {
+    latched_ = latching_ && latched;
+    if (flag == kRedraw) redraw();
+}
+
 int Button::calcHeight() { return UifStd::instance().getRowHeight(); }
 
 void Button::drawBackground() {
     Glob::drawBackground();
-    drawFace(BoxInt(0, 0, width(), height()), style_ == 1);
+    drawFace(BoxInt(0, 0, width(), height()), style_ == 1, latched_);
     drawLabel(label_, labelBox());
 }
 
@@ -40,4 +50,7 @@ void Button::drawLabel(const UIString& text, const BoxInt& box) const {
     CanvasRenderer(canvas()).render(t);
 }
 
-void Button::clicked() { fireCallback(this, callback_); }
+void Button::clicked() {
+    if (latching_) setLatched(!latched_);
+    fireCallback(this, callback_);
+}

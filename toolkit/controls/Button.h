@@ -29,6 +29,12 @@ public:
     void setStyle(int style, int style2 = 0);
     int getStyle() const { return style_; }
     int getStyle2() const { return style2_; }
+    // A latching button stays down after a click until the next one (a tool that
+    // is on while latched).
+    void setLatching(bool latching, bool latched = false);
+    bool isLatching() const { return latching_; }
+    bool isLatched() const { return latched_; }
+    void setLatched(bool latched, eRedrawFlag flag = kRedraw);
 
     // The size that shows `label` in `font` with the usual margins.
     static XY<int> calcSizeFor(const UIString& label, const Glib::FontDesc& font = {});
@@ -48,4 +54,6 @@ private:
     UIString label_;
     int style_ = 0;
     int style2_ = 0;
+    bool latching_ = false;
+    bool latched_ = false;
 };

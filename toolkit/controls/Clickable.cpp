@@ -42,20 +42,20 @@ void Clickable::handleMouseContainment(bool inside) {
     redraw();
 }
 
-void Clickable::drawFace(const BoxInt& box, bool flat) const {
+void Clickable::drawFace(const BoxInt& box, bool flat, bool heldDown) const {
     const Palette& p = getPalette();
     const double scale = UifStd::instance().getScale();
     Glib::RectDescription face(box, p.window(kShadeLight));
     face.cornerRadius = 3.0 * scale;
     if (!isActive())
         face.fill = p.window(kShadeNormal);
-    else if (isPressed())
+    else if (isPressed() || heldDown)
         face.fill = p.window(kShadeDark);
     else if (hovered_)
         face.fill = p.window(kShadeLighter);
     else if (flat)
         face.filled = false;
     face.outline = hasKbdFocus() ? p.selection(kSelectionFocused) : p.window(kShadeDarker);
-    face.outlineWidth = (flat && !hovered_ && !isPressed() && !hasKbdFocus()) ? 0.0 : (hasKbdFocus() ? 2.0 : 1.0) * scale;
+    face.outlineWidth = (flat && !hovered_ && !isPressed() && !heldDown && !hasKbdFocus()) ? 0.0 : (hasKbdFocus() ? 2.0 : 1.0) * scale;
     CanvasRenderer(canvas()).render(face);
 }

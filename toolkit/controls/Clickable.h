@@ -30,8 +30,8 @@ protected:
     // Keys other than the click keys, while focused; non-zero consumes.
     virtual int handleKey(int) { return 0; }
     // Paints the raised face of a button in `box` for the present state; a flat
-    // face shows only while hovered or pressed.
-    void drawFace(const BoxInt& box, bool flat) const;
+    // face shows only while hovered or pressed. A button held down shows pressed.
+    void drawFace(const BoxInt& box, bool flat, bool heldDown = false) const;
 
 private:
     bool hovered_ = false;

@@ -6,3 +6,7 @@ list(APPEND GLOBKIT_SOURCES
   controls/PushButton.cpp
   controls/TextLabel.cpp
 )
+list(APPEND GLOBKIT_SOURCES
+  controls/ImageButton.cpp
+  controls/ImageView.cpp
+)

@@ -2,6 +2,7 @@
 
 #include "PangoSupport.h"
 #include "core/Utf8.h"
+#include "image/iHostImage.h"
 
 #include <algorithm>
 #include <cmath>
@@ -119,6 +120,31 @@ void CanvasRenderer::render(const Glib::TextDescription& t) const {
     pango_font_description_free(d);
     g_object_unref(layout);
     noteModified(t.box.x1, t.box.y1, t.box.x2, t.box.y2);
+}
+
+void CanvasRenderer::render(const Glib::ImageDescription& i) const {
+    auto host = Zn::dynamicCast<iHostImage>(i.image);
+    if (!canvas_ || !host || i.to.isEmpty() || host->width() <= 0 || host->height() <= 0) return;
+    BoxInt from = i.from.isEmpty() ? BoxInt(0, 0, host->width(), host->height()) : i.from;
+    if (from.isEmpty()) return;
+    cairo_t* cr = canvas_->context();
+    XY<int> o = canvas_->origin();
+    cairo_save(cr);
+    // Clip to the destination, then map the source box onto it; the picture's rows
+    // run from the top, its box from the bottom.
+    double x = o.x + i.to.x1, y = canvas_->cairoY(o.y + i.to.y2);
+    cairo_rectangle(cr, x, y, i.to.width(), i.to.height());
+    cairo_clip(cr);
+    cairo_translate(cr, x, y);
+    cairo_scale(cr, double(i.to.width()) / from.width(), double(i.to.height()) / from.height());
+    cairo_set_source_surface(cr, host->surface(), -from.x1, -(host->height() - from.y2));
+    cairo_pattern_t* source = cairo_get_source(cr);
+    cairo_pattern_set_filter(source, i.smooth ? CAIRO_FILTER_GOOD : CAIRO_FILTER_NEAREST);
+    // Without padding, smoothing blends the picture's edge with transparency outside it.
+    cairo_pattern_set_extend(source, CAIRO_EXTEND_PAD);
+    cairo_paint_with_alpha(cr, std::clamp(i.opacity, 0.0, 1.0));
+    cairo_restore(cr);
+    noteModified(i.to.x1, i.to.y1, i.to.x2, i.to.y2);
 }
 
 void CanvasRenderer::fill(const Colour& c) const {

@@ -15,6 +15,7 @@ public:
     void render(const Glib::LineDescription& l) const;
     void render(const Glib::EllipseDescription& e) const;
     void render(const Glib::TextDescription& t) const;
+    void render(const Glib::ImageDescription& i) const;
     // Fills the whole current clip.
     void fill(const Colour& c) const;
 

@@ -3,6 +3,8 @@
 #include "FontDesc.h"
 #include "core/Box.h"
 #include "core/Colour.h"
+#include "core/Ptr.h"
+#include "image/iImage.h"
 
 // Descriptions of the drawing primitives, in the coordinates of the glob being
 // drawn (bottom-up). CanvasRenderer turns them into pixels.
@@ -58,6 +60,21 @@ struct TextDescription {
     TextDescription(const BoxInt& b, const LightweightString<wchar_t>& t, const FontDesc& f, const Colour& c,
                     eHorizontalAlign a = kAlignLeft)
         : box(b), text(t), font(f), colour(c), align(a) {}
+};
+
+// A picture, or the part `from` of it (in its own pixels, counted upward from its
+// bottom left; empty for all of it), stretched over `to`. Only pictures whose pixels
+// are in memory can be painted; others are skipped.
+struct ImageDescription {
+    Zn::Ptr<iImage> image;
+    BoxInt from;
+    BoxInt to;
+    double opacity = 1.0;
+    // Smooth when scaling; off, each picture pixel shows as a block (for magnifying).
+    bool smooth = true;
+
+    ImageDescription() = default;
+    ImageDescription(const Zn::Ptr<iImage>& i, const BoxInt& dest, double o = 1.0) : image(i), to(dest), opacity(o) {}
 };
 
 } // namespace Glib

@@ -4,3 +4,6 @@ list(APPEND GLOBKIT_TEST_SOURCES
   toolkit/controls/CycleButtonTest.cpp
   toolkit/controls/TextLabelTest.cpp
 )
+list(APPEND GLOBKIT_TEST_SOURCES
+  toolkit/controls/ImageButtonTest.cpp
+)

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Button.h"
+#include "image/iHostImage.h"
+
+// A button that shows a picture (an icon by path), and its label, if any, at
+// the picture's right. A picture that cannot be read leaves a plain button.
+class ImageButton : public Button {
+public:
+    struct InitArgs : Button::InitArgs {
+        LightweightString<wchar_t> image;
+        InitArgs() = default;
+        InitArgs(const LightweightString<wchar_t>& image, const WidgetCallback& callback, unsigned short width, unsigned short height)
+            : Button::InitArgs(UIString(), callback, width, height), image(image) {}
+    };
+
+    explicit ImageButton(const InitArgs& args);
+    ~ImageButton() override = default;
+    const char* idstring() const override { return "ImageButton"; }
+
+    void setImage(const LightweightString<wchar_t>& path, eRedrawFlag flag = kRedraw);
+    const LightweightString<wchar_t>& getImagePath() const { return path_; }
+    bool hasImage() const { return static_cast<bool>(image_); }
+
+    void drawBackground() override;
+
+protected:
+    BoxInt labelBox() const override;
+    // Where the picture goes: a square at the left, or the middle when there is no label.
+    BoxInt imageBox() const;
+
+private:
+    LightweightString<wchar_t> path_;
+    Zn::Ptr<iHostImage> image_;
+};

@@ -1,0 +1,4 @@
+list(APPEND GLOBKIT_SOURCES
+  image/HostImage.cpp
+  image/IconCache.cpp
+)
