@@ -189,7 +189,9 @@ void TipWindowBase::setText(const UIString& text, eRedrawFlag flag) {
 
 BoxInt TipWindowBase::textBox() const {
     const BoxInt u = getUserArea();
-    BoxInt b(u.x1 + indent_, u.y1 + indent_, u.x2 - indent_, u.y2 - indent_);
+    // A window one line high, such as a status line, gives up its margin above and below before it cuts the text.
+    const int v = std::clamp((u.height() - lineHeight()) / 2, 0, indent_);
+    BoxInt b(u.x1 + indent_, u.y1 + v, u.x2 - indent_, u.y2 - v);
     if (b.x2 < b.x1) b.x2 = b.x1;
     if (b.y2 < b.y1) b.y2 = b.y1;
     return b;

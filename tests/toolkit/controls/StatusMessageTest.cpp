@@ -70,6 +70,7 @@ TEST_F(StatusMessages, AStatusLineEmptiesAndStays) {
     const std::uint32_t window = TestKit::argb(host->getPalette().window());
     EXPECT_TRUE(TestKit::pixelNear(line, 1, 1, window, 2)) << "as a child it paints in its panel's colours";
     EXPECT_GT(inkPixels(line, line->textBox(), window), 30);
+    EXPECT_GE(line->textBox().height(), Glib::fontHeight(UifStd::instance().getDefaultFont())) << "a line one row high is not cut";
 
     tickAfter(600);
     line->setMessage(L"Rendering frame 11", 1000);
