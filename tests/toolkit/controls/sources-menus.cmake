@@ -1,0 +1,6 @@
+list(APPEND GLOBKIT_TEST_SOURCES
+  toolkit/controls/DropDownMenuButtonTest.cpp
+  toolkit/controls/MenuItemTest.cpp
+  toolkit/controls/MenuTest.cpp
+  toolkit/controls/TitleMenuButtonTest.cpp
+)
