@@ -65,9 +65,9 @@ StandardPanel* buildForm(XY<int> at) {
     search->setPlaceholder(UIString(L"Search the bin\u2026"));
     TitleTextBox* password = formRow(p, L"Password", L"correct horse", search, title);
     password->setObfuscatedDisplay(true);
-    TitleTextBox* unicode = formRow(p, L"Any text", L"Caf\u00e9 \u2014 \u00fcber na\u0308ive \u65e5\u672c", password, title);
+    TitleTextBox* unicode = formRow(p, L"Any text", L"Caf\u00e9 \u2014 \u00fcber na\u0308ive \u03bb\u03cc\u03b3\u03bf\u03c2", password, title);
     TitleTextBox* scrolled = formRow(p, L"Long", L"", unicode, title);
-    scrolled->setString(L"A line far too long for its box scrolls to keep the caret in view, here at its end");
+    scrolled->setString(L"A line too long for its box shows its start until the box has the focus, then scrolls with the caret");
     scrolled->getTextBox()->setCursorPosition(scrolled->getString().size());
 
     GlobManager::instance().realize(p);
@@ -80,8 +80,8 @@ StandardPanel* buildForm(XY<int> at) {
 StandardPanel* buildNumbersAndNotes(StandardPanel* form) {
     const UifStd& u = UifStd::instance();
     int gap = u.getWidgetGap(), row = TextBox::calcHeight();
-    StandardPanel* p = makePanel(420, 330, L"Numbers and notes", {0, 0}, true);
-    GlobCreationInfo size(420, 330);
+    StandardPanel* p = makePanel(420, 230, L"Numbers and notes", {0, 0}, true);
+    GlobCreationInfo size(420, 230);
     p->setupRootPos(GlobManager::instance().getPosForGlob(size, Glob::RightOf(gap * 3, form, kAlignEnd)));
     auto& opacity = static_cast<TextPanel*>(p)->opacity;
     using Adaptor = ValAdaptor<LightweightString<wchar_t>, int>;

@@ -38,9 +38,11 @@ int appendUtf8(unsigned cp, std::string& out) {
 
 int toPixels(int pangoUnits) { return static_cast<int>(std::lround(pangoUnits / double(PANGO_SCALE))); }
 
-// Pango units overflow an int a little past two million pixels; positions are
-// held well inside that.
-int toPango(int pixels) { return std::clamp(pixels, -(1 << 20), 1 << 20) * PANGO_SCALE; }
+// Pango units overflow an int past 2,097,151 pixels; positions are held inside that.
+int toPango(int pixels) {
+    constexpr int kFarthest = (1 << 21) - 1;
+    return std::clamp(pixels, -kFarthest, kFarthest) * PANGO_SCALE;
+}
 
 } // namespace
 

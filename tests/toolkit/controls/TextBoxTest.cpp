@@ -272,6 +272,44 @@ TEST_F(TextBoxTest, NamedCallbacksArePostedAndTravelUpUntilTaken) {
     EXPECT_EQ(focusLost, 1);
 }
 
+TEST_F(TextBoxTest, TabLeavesTheBoxForTheNextStopWhichSelectsAll) {
+    TextBox* second = addBox(200, L"second", {10, 60});
+    panel->tabOrder().addTabStop(*box);
+    panel->tabOrder().addTabStop(*second);
+    focus(box);
+    TestKit::typeText(L"first");
+    TestKit::pressKey(Keys::Tab);
+    EXPECT_EQ(get_kbd_focus(), second);
+    EXPECT_EQ(box->getString(), L"first") << "Tab is no character";
+    EXPECT_EQ(second->getSelectedText(), L"second") << "tabbing in selects the whole text";
+    TestKit::pressKey(Keys::Tab, Modifiers::Shift);
+    EXPECT_EQ(get_kbd_focus(), box);
+    box->setEditable(false);
+    EXPECT_EQ(get_kbd_focus(), nullptr) << "a box that is no longer editable gives up the focus";
+    TestKit::pressKey(Keys::Tab);
+    EXPECT_EQ(get_kbd_focus(), second) << "and is passed over";
+}
+
+TEST_F(TextBoxTest, ACallbackThatDeletesTheBoxIsSafe) {
+    IdStamp stamp = box->stamp();
+    TextBox* doomed = box;
+    box->requestCallback(WidgetCallback(Zn::Ptr<iCallbackBase<int, NotifyMsg>>(new FunctionCallback<NotifyMsg, int>(
+                             std::function<int(const NotifyMsg&)>([&](const NotifyMsg&) {
+                                 Glob* g = doomed;
+                                 panel->removeWidget(g, true);
+                                 return 1;
+                             })))),
+                         TextBoxBase::kReturnPressed);
+    box->requestCallback("Typed", nullptr, TextBoxBase::kCharTyped);
+    focus(box);
+    TestKit::typeText(L"x");
+    TestKit::pressKey(Keys::Return);
+    EXPECT_FALSE(EventHandler::valid(doomed, stamp));
+    TestKit::typeText(L"y");
+    TestKit::pressKey(Keys::Escape);
+    box = nullptr;
+}
+
 TEST_F(TextBoxTest, RestrictionsAndTheSizeLimitFilterWhatGoesIn) {
     focus(box);
     box->setCharacters(L"0123456789", TextBoxBase::kOnlyCharacters);
