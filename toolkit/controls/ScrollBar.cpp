@@ -3,12 +3,19 @@
 #include "ArrowGlyph.h"
 #include "draw/CanvasRenderer.h"
 #include "glob/Messaging.h"
+#include "glob/GlobManager.h"
 #include "glob/UifStd.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace {
+
+// Paints now only when on the screen: while a control is being built it has no
+// place yet, and painting would land in a corner of the canvas it shares.
+void repaint(Glob* g) {
+    if (g->isShowing() && GlobManager::instance().isRealized(getRootParent(g))) g->redraw();
+}
 
 // Timer ticks before a held arrow or track starts repeating.
 constexpr int kRepeatDelayTicks = 6;
@@ -46,14 +53,14 @@ void ScrollBar::setThumbSize(double size, eRedrawFlag flag) {
     size = clampSize(size);
     if (size == size_) return;
     size_ = size;
-    if (flag == kRedraw) redraw();
+    if (flag == kRedraw) repaint(this);
 }
 
 void ScrollBar::setThumbPos(double pos, eRedrawFlag flag) {
     pos = clampUnit(pos);
     if (pos == pos_) return;
     pos_ = pos;
-    if (flag == kRedraw) redraw();
+    if (flag == kRedraw) repaint(this);
 }
 
 bool ScrollBar::canScroll() const { return size_ < 1.0 && thumbLength() < length() - 2 * arrowLength(); }
@@ -199,7 +206,7 @@ int ScrollBar::react(const Event& e) {
             repeatTicks_ = 0;
             setInterest(4096);
         }
-        redraw();
+        repaint(this);
         return 1;
     }
     if (pressed_ == kNoPart) return mouse_move_event(e) ? 0 : 1;
@@ -215,7 +222,7 @@ int ScrollBar::react(const Event& e) {
     if (mouse_up_event(e)) {
         pressed_ = kNoPart;
         stopRepeating();
-        redraw();
+        repaint(this);
     }
     return 1;
 }
@@ -223,5 +230,5 @@ int ScrollBar::react(const Event& e) {
 void ScrollBar::handleMouseContainment(bool inside) {
     if (hover_ == inside) return;
     hover_ = inside;
-    redraw();
+    repaint(this);
 }

@@ -4,6 +4,7 @@
 #include "draw/Canvas.h"
 #include "draw/CanvasRenderer.h"
 #include "glob/fireCallback.h"
+#include "glob/GlobManager.h"
 #include "glob/UifStd.h"
 
 #include <algorithm>
@@ -11,6 +12,12 @@
 #include <cwctype>
 
 namespace {
+
+// Paints now only when on the screen: while a control is being built it has no
+// place yet, and painting would land in a corner of the canvas it shares.
+void repaint(Glob* g) {
+    if (g->isShowing() && GlobManager::instance().isRealized(getRootParent(g))) g->redraw();
+}
 // Rows scrolled by one notch of the wheel over the rows.
 constexpr int kWheelRows = 3;
 } // namespace
@@ -37,14 +44,14 @@ void ScrollList::setItems(const std::vector<LightweightString<wchar_t>>& items) 
     current_ = anchor_ = -1;
     first_ = 0;
     updateBar();
-    redraw();
+    repaint(this);
 }
 
 void ScrollList::addItem(const LightweightString<wchar_t>& item) {
     items_.push_back(item);
     selected_.push_back(false);
     updateBar();
-    redraw();
+    repaint(this);
 }
 
 LightweightString<wchar_t> ScrollList::getItem(int index) const {
@@ -56,7 +63,7 @@ void ScrollList::setLineHeight(unsigned short h) {
     lineHeight_ = h;
     first_ = std::min(first_, maxFirst());
     updateBar();
-    redraw();
+    repaint(this);
 }
 
 void ScrollList::setMultiSelect(bool multi) {
@@ -64,7 +71,7 @@ void ScrollList::setMultiSelect(bool multi) {
     if (!multi_) {
         // Only the current row survives the change to single selection.
         for (std::size_t i = 0; i < selected_.size(); ++i) selected_[i] = static_cast<int>(i) == current_ && selected_[i];
-        redraw();
+        repaint(this);
     }
 }
 
@@ -88,7 +95,7 @@ void ScrollList::select(int index, bool notify) {
         current_ = anchor_ = index;
         ensureVisible(index);
     }
-    redraw();
+    repaint(this);
     if (notify) notifySelection();
 }
 
@@ -100,7 +107,7 @@ void ScrollList::setSelected(int index, bool on, bool notify) {
     }
     selected_[static_cast<std::size_t>(index)] = on;
     current_ = anchor_ = index;
-    redraw();
+    repaint(this);
     if (notify) notifySelection();
 }
 
@@ -129,7 +136,7 @@ void ScrollList::moveTo(int index, unsigned modifiers) {
         current_ = anchor_ = index;
     }
     ensureVisible(index);
-    redraw();
+    repaint(this);
     notifySelection();
 }
 
@@ -164,7 +171,7 @@ void ScrollList::scrollTo(int firstRow) {
     if (firstRow == first_) return;
     first_ = firstRow;
     updateBar();
-    redraw();
+    repaint(this);
 }
 
 void ScrollList::ensureVisible(int index) {
@@ -194,7 +201,7 @@ void ScrollList::updateBar() {
     int n = numItems(), visible = numVisibleRows();
     bar_->setThumbSize(n > visible && n > 0 ? static_cast<double>(visible) / n : 1.0, kNoRedraw);
     bar_->setThumbPos(maxFirst() ? static_cast<double>(first_) / maxFirst() : 0.0, kNoRedraw);
-    bar_->redraw();
+    repaint(bar_);
 }
 
 void ScrollList::resize(double w, double h) {
@@ -315,7 +322,7 @@ int ScrollList::handleMessageEvent(const LightweightString<char>& message, Glob*
         int want = static_cast<int>(std::lround(bar_->thumbPos() * maxFirst()));
         if (want != first_) {
             first_ = want;
-            redraw();
+            repaint(this);
         }
     }
     return 1;

@@ -1,12 +1,19 @@
 #include "VerticalScrollingBase.h"
 
 #include "ScrollBar.h"
+#include "glob/GlobManager.h"
 #include "glob/UifStd.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace {
+
+// Paints now only when on the screen: while a control is being built it has no
+// place yet, and painting would land in a corner of the canvas it shares.
+void repaint(Glob* g) {
+    if (g->isShowing() && GlobManager::instance().isRealized(getRootParent(g))) g->redraw();
+}
 // Arrow steps scrolled by one notch of the wheel over the rows.
 constexpr int kWheelSteps = 3;
 } // namespace
@@ -83,7 +90,7 @@ void VerticalScrollingBase::resetView() { scrollTo((flags & kStackUpward) ? maxS
 void VerticalScrollingBase::scrollTo(int offset) {
     offset_ = std::clamp(offset, 0, maxScrollOffset());
     placeContent();
-    redraw();
+    repaint(this);
 }
 
 void VerticalScrollingBase::revealWidget(Glob* row) {
@@ -112,7 +119,7 @@ void VerticalScrollingBase::removeManagedWidget(Glob* row) {
     Glob* doomed = row;
     content->removeWidget(doomed, true);
     recalcWidgetsHeight();
-    redraw();
+    repaint(this);
 }
 
 void VerticalScrollingBase::clearManagedWidgets() {
@@ -172,7 +179,7 @@ int VerticalScrollingBase::handleMessageEvent(const LightweightString<char>& mes
         offset_ = static_cast<int>(std::lround(bar_->thumbPos() * maxScrollOffset()));
         int spare = viewHeight() - content->height();
         viewport_->setWidgetPos(content, BottomLeft(0, spare + offset_));
-        redraw();
+        repaint(this);
     }
     return 1;
 }

@@ -4,4 +4,7 @@ list(APPEND GLOBKIT_SOURCES
   controls/ScrollList.cpp
   controls/TreeView.cpp
   controls/VerticalScrollingBase.cpp
+  controls/TableColumnDescription.cpp
+  controls/TableWidget.cpp
+  controls/WStringEditor.cpp
 )

@@ -11,6 +11,11 @@
 
 namespace {
 
+GlobManager::EventObserver& eventObserver() {
+    static GlobManager::EventObserver o;
+    return o;
+}
+
 std::map<LightweightString<char>, GlobManager::Maker>& kinds() {
     static std::map<LightweightString<char>, GlobManager::Maker> k;
     return k;
@@ -226,6 +231,7 @@ void GlobManager::tickTimers() {
     for (Glob* g : timerGlobs_) ticking.emplace_back(g, g->stamp());
     for (const auto& t : ticking)
         if (stillThere(t)) t.first->handleEvent(Event::timer());
+    if (const EventObserver& o = eventObserver()) o(Event::timer());
     deleteDoomed();
 }
 
@@ -264,8 +270,11 @@ void GlobManager::runUntilIdle(int maxRounds) {
     compose();
 }
 
+void GlobManager::setEventObserver(EventObserver observer) { eventObserver() = std::move(observer); }
+
 void GlobManager::dispatch(const Event& e) {
     input_->dispatch(e);
+    if (const EventObserver& o = eventObserver()) o(e);
     deleteDoomed();
 }
 

@@ -81,6 +81,11 @@ public:
 
     // Input from the backend or a test, in screen coordinates.
     void dispatch(const Event& e);
+    // One watcher of the user that is not a glob (the tooltips): it sees every
+    // input event after the globs have, and a timer event after each round of
+    // ticks. Another replaces it; an empty function removes it.
+    using EventObserver = std::function<void(const Event&)>;
+    static void setEventObserver(EventObserver observer);
     InputDispatcher& input() { return *input_; }
 
     Screen& screen();

@@ -41,6 +41,34 @@ void InputDispatcher::setFocus(Glob* g) { focus_.change(g, &Glob::handleKbdFocus
 void InputDispatcher::forget(Glob* g) {
     for (Ref* r : {&focus_, &capture_, &hover_, &moving_, &it_})
         if (r->glob == g) *r = Ref();
+    stopWatchingPressesOutside(g);
+}
+
+void InputDispatcher::watchPressesOutside(Glob* g) {
+    if (!g) return;
+    stopWatchingPressesOutside(g);
+    outsideWatchers_.emplace_back();
+    outsideWatchers_.back().set(g);
+}
+
+void InputDispatcher::stopWatchingPressesOutside(Glob* g) {
+    std::erase_if(outsideWatchers_, [g](const Ref& r) { return r.glob == g; });
+}
+
+bool InputDispatcher::pressedOutside(const Event& e) {
+    // A copy: a watcher that closes stops watching, and may start another.
+    std::vector<Ref> watchers = outsideWatchers_;
+    bool swallowed = false;
+    for (auto it = watchers.rbegin(); it != watchers.rend(); ++it) {
+        Glob* g = it->get();
+        if (!g) continue;
+        Glob* root = getRootParent(g);
+        if (root->isVisible() && root->box().contains(e.screenPos())) continue;
+        Event local = e;
+        local.setLocalPos(g->screenXYToGlobXY(e.screenPos()));
+        if (g->handleEvent(local)) swallowed = true;
+    }
+    return swallowed;
 }
 
 Glob* InputDispatcher::it() const { return it_.get(); }
@@ -135,6 +163,7 @@ void InputDispatcher::dispatch(const Event& event) {
     if (mouse_event(e)) {
         mouse_ = e.screenPos();
         if (moveWithMouse(e)) return;
+        if (e.type() == Event::kMouseDown && !outsideWatchers_.empty() && pressedOutside(e)) return;
         Glob* target = targetForMouse(e);
         if (e.type() == Event::kMouseMove || e.type() == Event::kMouseDown) updateHover(capture_.get() ? capture_.get() : target);
         if (!target) return;

@@ -2,6 +2,8 @@
 
 #include "core/Event.h"
 
+#include <vector>
+
 class Glob;
 
 // Routes input in screen coordinates to globs. The mouse goes to the deepest glob
@@ -23,6 +25,11 @@ public:
     void startMoving(Glob* root, XY<int> grab);
     // The top-level glob the user last worked in.
     Glob* it() const;
+    // Lets `g` hear of every mouse press outside its top-level glob before the press
+    // is routed, as an open menu must to close itself. A non-zero answer from its
+    // handleEvent swallows the press.
+    void watchPressesOutside(Glob* g);
+    void stopWatchingPressesOutside(Glob* g);
 
 private:
     struct Ref {
@@ -45,8 +52,11 @@ private:
     void setIt(Glob* root);
     // Lets each ancestor of `target`, outermost first, take the event before it.
     bool intercepted(Glob* target, const Event& e);
+    // Tells the watchers that a press missed; true when one of them swallowed it.
+    bool pressedOutside(const Event& e);
 
     Ref focus_, capture_, hover_, moving_, it_;
+    std::vector<Ref> outsideWatchers_;
     XY<int> moveGrab_, moveOrigin_;
     XY<int> mouse_;
     XY<int> lastClickPos_;

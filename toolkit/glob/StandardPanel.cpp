@@ -280,7 +280,10 @@ int StandardPanel::react(const Event& e) {
     }
     if (mouse_event(e)) {
         if (dragFrame(e)) return 1;
-        return handleMouseEvent(e);
+        if (int r = handleMouseEvent(e)) return r;
+        // A right press that the panel left alone opens its context menu, if it has one.
+        if (mouse_down_event(e) && mouse_right_event(e) && canMakeMenu(e) && makeMenu(e)) return 1;
+        return 0;
     }
     return 0;
 }

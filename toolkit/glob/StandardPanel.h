@@ -3,12 +3,13 @@
 #include "Border.h"
 #include "Glob.h"
 #include "TabOrderManager.h"
+#include "controls/MenuGlob.h"
 #include "draw/FontDesc.h"
 
 // The toolkit's panel: a glob with a border, an optional title bar with window
-// furniture, a user area for its children, a tab order, and a dispatch of events
-// to the handle... family. Most widgets derive from it.
-class StandardPanel : public Glob, public Glib::FontUser {
+// furniture, a user area for its children, a tab order, a context menu, and a
+// dispatch of events to the handle... family. Most widgets derive from it.
+class StandardPanel : public Glob, public Glib::FontUser, public MenuGlob {
 public:
     struct InitArgs : GlobCreationInfo {
         Border border{Border::kNone, 0, 15};

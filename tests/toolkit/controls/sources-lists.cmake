@@ -3,4 +3,5 @@ list(APPEND GLOBKIT_TEST_SOURCES
   toolkit/controls/ScrollListTest.cpp
   toolkit/controls/TreeViewTest.cpp
   toolkit/controls/VerticalScrollingBaseTest.cpp
+  toolkit/controls/TableWidgetTest.cpp
 )

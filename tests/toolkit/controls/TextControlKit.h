@@ -1,0 +1,91 @@
+#pragma once
+
+#include "core/FunctionCallback.h"
+#include "core/WidgetCallback.h"
+#include "draw/TextLayout.h"
+#include "glob/GlobManager.h"
+#include "glob/Messaging.h"
+#include "glob/StandardPanel.h"
+#include "glob/UifStd.h"
+#include "platform/OS.h"
+#include "testing/TestKit.h"
+
+#include <cstdint>
+#include <cstdlib>
+#include <vector>
+
+// What the tests of the text controls share: a realized panel to put a control in,
+// a panel that records the messages it hears, and counts of painted pixels.
+namespace TextControlKit {
+
+class RecordingPanel : public StandardPanel {
+public:
+    using StandardPanel::StandardPanel;
+    int handleMessageEvent(const LightweightString<char>& message, Glob* sender) override {
+        heard.push_back(message);
+        senders.push_back(sender);
+        return consume ? 1 : 0;
+    }
+    std::vector<LightweightString<char>> heard;
+    std::vector<Glob*> senders;
+    bool consume = true;
+};
+
+inline RecordingPanel* makePanel(int w = 400, int h = 200, XY<int> at = {100, 100}) {
+    StandardPanel::InitArgs args(static_cast<unsigned short>(w), static_cast<unsigned short>(h));
+    args.palette = UifStd::instance().getColourScheme();
+    auto* p = new RecordingPanel(args);
+    p->setupRootPos(at);
+    GlobManager::instance().realize(p);
+    return p;
+}
+
+inline bool channelsNear(std::uint32_t a, std::uint32_t b, int tolerance) {
+    for (int shift = 0; shift < 24; shift += 8)
+        if (std::abs(int((a >> shift) & 0xFF) - int((b >> shift) & 0xFF)) > tolerance) return false;
+    return true;
+}
+
+// How many pixels of `box` (glob coordinates) are within `tolerance` of `colour`.
+inline int countPixels(const Glob* g, const BoxInt& box, const Colour& colour, int tolerance = 0) {
+    TestKit::pump();
+    std::uint32_t want = TestKit::argb(colour);
+    int n = 0;
+    for (int y = box.y1; y < box.y2; ++y)
+        for (int x = box.x1; x < box.x2; ++x)
+            if (channelsNear(TestKit::globPixel(g, x, y), want, tolerance)) ++n;
+    return n;
+}
+
+// How many pixels of `box` differ from `background` by more than `tolerance`: ink.
+inline int inkPixels(const Glob* g, const BoxInt& box, const Colour& background, int tolerance = 40) {
+    TestKit::pump();
+    std::uint32_t bg = TestKit::argb(background);
+    int n = 0;
+    for (int y = box.y1; y < box.y2; ++y)
+        for (int x = box.x1; x < box.x2; ++x)
+            if (!channelsNear(TestKit::globPixel(g, x, y), bg, tolerance)) ++n;
+    return n;
+}
+
+// True when two globs of one size show the same pixels.
+inline bool samePixels(const Glob* a, const Glob* b) {
+    TestKit::pump();
+    if (a->size() != b->size()) return false;
+    for (int y = 0; y < a->height(); ++y)
+        for (int x = 0; x < a->width(); ++x)
+            if (TestKit::globPixel(a, x, y) != TestKit::globPixel(b, x, y)) return false;
+    return true;
+}
+
+// Types a text one character at a time, as a keyboard does.
+inline void typeEach(const wchar_t* text) {
+    for (const wchar_t* c = text; *c; ++c) TestKit::typeText(LightweightString<wchar_t>(1, *c));
+}
+
+// A callback that counts its calls in `n`, which must outlive it.
+inline WidgetCallback countingCallback(int& n) {
+    return WidgetCallback(Zn::Ptr<iCallbackBase<int, NotifyMsg>>(new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([&n](const NotifyMsg&) { return ++n; }))));
+}
+
+} // namespace TextControlKit

@@ -1,0 +1,52 @@
+#include "MenuGlob.h"
+
+#include "Menu.h"
+
+MenuGlob::~MenuGlob() { closeMenu(); }
+
+void MenuGlob::addMenuItem(const MenuItem& item, bool active) {
+    menuItems_.push_back(item);
+    menuItems_.back().setActive(active);
+}
+
+void MenuGlob::clearMenu() { menuItems_.clear(); }
+
+void MenuGlob::setMenuItemActive(std::size_t row, bool active) {
+    if (row < menuItems_.size()) menuItems_[row].setActive(active);
+}
+
+Menu* MenuGlob::getOpenMenu() const {
+    if (!EventHandler::valid(open_, openStamp_) || !open_->isOpen()) return nullptr;
+    return open_;
+}
+
+void MenuGlob::closeMenu() {
+    if (Menu* m = getOpenMenu()) m->close();
+    open_ = nullptr;
+    openStamp_ = IdStamp();
+}
+
+Menu* MenuGlob::makeMenu(const Event& e) {
+    // The owner is the glob that this object is a part of.
+    auto* self = dynamic_cast<Glob*>(this);
+    if (!self) return nullptr;
+    closeMenu();
+    const IdStamp stamp = self->stamp();
+    if (!initialised_) {
+        initialised_ = true;
+        initialiseMenu();
+    }
+    reviewMenu(&e);
+    // A review may act on the panel in ways that end it.
+    if (!EventHandler::valid(self, stamp)) return nullptr;
+    std::vector<MenuItem> rows = getMenuItems(&e);
+    if (rows.empty()) return nullptr;
+    Menu::InitArgs args(rows);
+    args.title = menuTitle_;
+    args.palette = self->getPalette();
+    auto* menu = new Menu(args);
+    menu->popUpAt(self, e.screenPos());
+    open_ = menu;
+    openStamp_ = menu->stamp();
+    return menu;
+}
