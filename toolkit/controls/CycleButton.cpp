@@ -1,5 +1,10 @@
 #include "CycleButton.h"
 
+#include "draw/CanvasRenderer.h"
+#include "image/IconCache.h"
+
+#include <algorithm>
+
 namespace {
 Button::InitArgs buttonArgs(const CycleButton::InitArgs& a) {
     Button::InitArgs b;
@@ -16,16 +21,37 @@ void CycleButton::setPickStrings(const std::vector<UIString>& labels, eRedrawFla
     setPickState(state_, flag);
 }
 
+void CycleButton::setPickIcons(const std::vector<LightweightString<wchar_t>>& paths, eRedrawFlag flag) {
+    icons_.clear();
+    for (const auto& path : paths) icons_.push_back(IconCache::instance().get(path));
+    setPickState(state_, flag);
+}
+
 void CycleButton::setPickState(unsigned short state, eRedrawFlag flag) {
-    state_ = labels_.empty() ? 0 : std::min<unsigned short>(state, static_cast<unsigned short>(labels_.size() - 1));
+    std::size_t n = numStates();
+    state_ = n == 0 ? 0 : static_cast<unsigned short>(std::min<std::size_t>(state, n - 1));
     showState(flag);
 }
 
-void CycleButton::showState(eRedrawFlag flag) { setLabel(labels_.empty() ? UIString() : labels_[state_], flag); }
+Zn::Ptr<iHostImage> CycleButton::currentIcon() const { return state_ < icons_.size() ? icons_[state_] : Zn::Ptr<iHostImage>(); }
+
+// The label is kept off the face while an icon stands for the state.
+void CycleButton::showState(eRedrawFlag flag) {
+    setLabel(state_ < labels_.size() && !currentIcon() ? labels_[state_] : UIString(), flag);
+}
+
+void CycleButton::drawBackground() {
+    Button::drawBackground();
+    Zn::Ptr<iHostImage> icon = currentIcon();
+    if (!icon) return;
+    int margin = std::max(2, height() / 8);
+    BoxInt box(margin, margin, width() - margin, height() - margin);
+    CanvasRenderer(canvas()).render(Glib::ImageDescription(icon, icon->fittedInto(box), isActive() ? 1.0 : 0.4));
+}
 
 void CycleButton::step(int by) {
-    if (labels_.empty()) return;
-    int n = static_cast<int>(labels_.size());
+    if (numStates() == 0) return;
+    int n = static_cast<int>(numStates());
     state_ = static_cast<unsigned short>(((state_ + by) % n + n) % n);
     showState(kRedraw);
     Button::clicked();

@@ -32,10 +32,5 @@ BoxInt ImageButton::labelBox() const {
 void ImageButton::drawBackground() {
     Button::drawBackground();
     if (!image_) return;
-    // The picture keeps its proportions inside its square.
-    BoxInt box = imageBox();
-    double scale = std::min(double(box.width()) / image_->width(), double(box.height()) / image_->height());
-    int w = int(image_->width() * scale), h = int(image_->height() * scale);
-    int x = box.x1 + (box.width() - w) / 2, y = box.y1 + (box.height() - h) / 2;
-    CanvasRenderer(canvas()).render(Glib::ImageDescription(image_, BoxInt(x, y, x + w, y + h), isActive() ? 1.0 : 0.4));
+    CanvasRenderer(canvas()).render(Glib::ImageDescription(image_, image_->fittedInto(imageBox()), isActive() ? 1.0 : 0.4));
 }

@@ -2,19 +2,13 @@
 
 #include "draw/CanvasRenderer.h"
 
-#include <algorithm>
-
 void ImageView::setImage(const Zn::Ptr<iImage>& image, eRedrawFlag flag) {
     image_ = image;
     if (flag == kRedraw) redraw();
 }
 
 BoxInt ImageView::imageArea() const {
-    if (!image_ || image_->width() <= 0 || image_->height() <= 0 || width() <= 0 || height() <= 0) return {};
-    double scale = std::min(double(width()) / image_->width(), double(height()) / image_->height());
-    int w = std::max(1, int(image_->width() * scale)), h = std::max(1, int(image_->height() * scale));
-    int x = (width() - w) / 2, y = (height() - h) / 2;
-    return BoxInt(x, y, x + w, y + h);
+    return image_ ? image_->fittedInto(BoxInt(0, 0, width(), height())) : BoxInt();
 }
 
 void ImageView::drawBackground() {

@@ -168,6 +168,10 @@ private:
 using String = LightweightString<char>;
 using WString = LightweightString<wchar_t>;
 
+// Wide text written to a narrow stream goes as UTF-8, so logs and failed test
+// expectations show the text.
+std::ostream& operator<<(std::ostream& os, const LightweightString<wchar_t>& s);
+
 template <class C>
 struct std::hash<LightweightString<C>> {
     std::size_t operator()(const LightweightString<C>& s) const noexcept { return std::hash<std::basic_string_view<C>>()(s.view()); }

@@ -75,3 +75,5 @@ LightweightString<char> toUTF8(const LightweightString<wchar_t>& text) {
 }
 
 LightweightString<char> toUTF8(const wchar_t* text) { return toUTF8(LightweightString<wchar_t>(text)); }
+
+std::ostream& operator<<(std::ostream& os, const LightweightString<wchar_t>& s) { return os << toUTF8(s).view(); }

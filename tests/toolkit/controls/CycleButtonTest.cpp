@@ -1,5 +1,6 @@
 #include "ControlsTestSupport.h"
 #include "controls/CycleButton.h"
+#include "draw/FontDesc.h"
 
 namespace {
 class CycleButtons : public ControlsTest {
@@ -42,4 +43,29 @@ TEST_F(CycleButtons, ArrowKeysStepAFocusedButton) {
     TestKit::pressKey(Keys::Down);
     TestKit::pressKey(Keys::Up);
     EXPECT_EQ(c->getPickState(), 1);
+}
+
+TEST_F(CycleButtons, IconsStandForTheirStatesAndAMissingOneLeavesTheLabel) {
+    CycleButton* c = add<CycleButton>(CycleButton::InitArgs({L"Hidden", L"Shown", L"Third"}, WidgetCallback("eye"), 40, 28));
+    const std::uint32_t face = TestKit::globPixel(c, 3, 14);
+    const BoxInt middle(12, 6, 28, 22);
+    c->setPickIcons({getIconPath(L"eye-closed"), getIconPath(L"eye-open"), L"/no/such/icon.png"});
+    TestKit::pump();
+    EXPECT_TRUE(c->showsIcon());
+    EXPECT_TRUE(c->getLabel().getString().empty()) << "the label is kept off an icon";
+    const int closedInk = inkPixels(c, middle, face);
+    EXPECT_GT(closedInk, 20);
+    TestKit::click(TestKit::centreOf(c));
+    TestKit::pump();
+    EXPECT_TRUE(c->showsIcon());
+    EXPECT_NE(inkPixels(c, middle, face), closedInk) << "each state paints its own icon";
+    TestKit::click(TestKit::centreOf(c));
+    TestKit::pump();
+    EXPECT_FALSE(c->showsIcon());
+    EXPECT_EQ(c->getLabel().getString(), WString(L"Third"));
+    EXPECT_GT(inkPixels(c, BoxInt(0, 6, 40, 22), face), 0) << "the label is painted instead";
+
+    c->setPickStrings({});
+    EXPECT_EQ(c->numStates(), 3u) << "icons alone make states";
+    EXPECT_EQ(c->getPickState(), 2);
 }
