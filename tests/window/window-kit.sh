@@ -19,6 +19,7 @@ need_tools() {
 
 fail() {
   echo "FAILED: $*"
+  [ -n "${DISPLAY:-}" ] && echo "-- windows on $DISPLAY: $(xdotool search --name . getwindowname %@ 2>&1 | tr '\n' ';')"
   [ -s "$work/err.txt" ] && { echo "-- gallery stderr:"; cat "$work/err.txt"; }
   [ -s "$work/report.txt" ] && { echo "-- last report:"; cat "$work/report.txt"; }
   exit 1
@@ -27,10 +28,9 @@ fail() {
 # Runs a command until it succeeds, for at most wait_limit seconds.
 wait_until() {
   local what=$1; shift
-  local tries=$((wait_limit * 10))
-  while [ "$tries" -gt 0 ]; do
+  local end=$((SECONDS + wait_limit))
+  while [ "$SECONDS" -lt "$end" ]; do
     "$@" && return 0
-    tries=$((tries - 1))
     sleep 0.1
   done
   fail "waited ${wait_limit}s for $what"
@@ -69,7 +69,7 @@ start_gallery() {
 
 window_shown() {
   kill -0 "$app" 2>/dev/null || fail "the gallery ended early"
-  win=$(xdotool search --onlyvisible --name "Mosaic gallery" 2>/dev/null | head -1)
+  win=$(xdotool search --onlyvisible --name "Mosaic gallery" | head -1)
   [ -n "$win" ]
 }
 
