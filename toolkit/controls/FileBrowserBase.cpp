@@ -215,7 +215,7 @@ bool FileBrowserBase::showStartFolder(const WStr& start) {
     return false;
 }
 
-bool FileBrowserBase::showFolder(const NStr& folder, const NStr& focus, bool select) {
+bool FileBrowserBase::showFolder(NStr folder, NStr focus, bool select) {
     FolderListing fresh;
     fresh.setFilter(listing_.getFilter(), mode_ == kFolder);
     fresh.sortBy(listing_.sortKey(), listing_.isAscending());

@@ -146,8 +146,9 @@ private:
     void buildFilters(const std::vector<LightweightString<wchar_t>>& filters);
     void layout();
     bool showStartFolder(const LightweightString<wchar_t>& start);
-    // Shows `folder`, with the row of `focus` current (and selected with `select`).
-    bool showFolder(const LightweightString<char>& folder, const LightweightString<char>& focus = {}, bool select = false);
+    // Shows `folder`, with the row of `focus` current (and selected with `select`). The
+    // paths are taken by value: callers pass paths of entries that this replaces.
+    bool showFolder(LightweightString<char> folder, LightweightString<char> focus = {}, bool select = false);
     // Goes to an existing path: a folder, or a file's folder with the file selected.
     bool showPath(const LightweightString<char>& path);
     void listingChanged(int currentRow);

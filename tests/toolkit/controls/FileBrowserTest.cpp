@@ -175,6 +175,32 @@ TEST(FBItemTest, SizesAndDatesReadAsPeopleWriteThem) {
 
 // ---- listing ----------------------------------------------------------------
 
+TEST(FolderListingTest, AFolderThatCannotBeReadListsNothingAndHiddenNamesAreShownOnlyWhenAsked) {
+    TempFolder tmp;
+    const std::string file = tmp.write("take.wav", "w");
+    tmp.write(".cache", "c");
+    fs::create_directories(tmp.file("Renders"));
+    FolderListing listing;
+    EXPECT_FALSE(listing.read(file.c_str())) << "a file is no folder";
+    EXPECT_FALSE(listing.isReadable());
+    EXPECT_EQ(listing.numShown(), 0);
+    EXPECT_FALSE(listing.read(""));
+    EXPECT_FALSE(listing.read(tmp.file("missing").c_str()));
+    EXPECT_EQ(listing.item(0), nullptr);
+    EXPECT_EQ(listing.indexOf("anything"), -1);
+
+    ASSERT_TRUE(listing.read(tmp.str().c_str(), true));
+    EXPECT_EQ(listing.numShown(), 3);
+    listing.setFilter(FileFilter({L"wav"}), true);
+    ASSERT_EQ(listing.numShown(), 1) << "folders only";
+    EXPECT_TRUE(listing.item(0)->isFolder);
+    listing.setFilter(FileFilter({L"wav"}));
+    EXPECT_EQ(listing.numShown(), 2);
+    EXPECT_EQ(listing.numEntries(), 3u);
+    EXPECT_EQ(listing.indexOf(file.c_str()), 1);
+}
+
+
 TEST_F(FileBrowserTest, FoldersComeFirstThenFilesByNameWithoutCaseAndHiddenOnesAreLeftOut) {
     FileBrowser* b = open();
     EXPECT_STREQ(b->idstring(), "FileBrowser");
@@ -267,6 +293,10 @@ TEST_F(FileBrowserTest, DoubleClickEntersAFolderAndUpAndBackspaceComeBack) {
     TestKit::pressKey(Keys::Backspace);
     TestKit::pump();
     EXPECT_EQ(b->getCurrentFolder(), fromUTF8(tmp.str()));
+
+    ASSERT_TRUE(b->setCurrentFolder(path("Beta")));
+    ASSERT_TRUE(b->goUp());
+    EXPECT_EQ(b->table()->getCurPos().y, rowOf(b, L"Beta"));
 
     ASSERT_TRUE(b->setCurrentFolder(L"/"));
     EXPECT_FALSE(b->goUp()) << "nothing above the root";
@@ -428,6 +458,8 @@ TEST_F(FileBrowserTest, SeveralFilesAreSelectedWithControlAndShift) {
 TEST_F(FileBrowserTest, FolderModeChoosesTheFolderShownOrTheSubfolderSelected) {
     FileBrowser* b = open(FileBrowserBase::kFolder, {L"png"});
     EXPECT_EQ(names(b), (std::vector<std::wstring>{L"alpha", L"Beta"})) << "only folders";
+    ASSERT_EQ(b->table()->numColumns(), 2) << "no size column for folders";
+    EXPECT_EQ(b->table()->getColumn(1)->getSortKey(), LightweightString<char>("date"));
     EXPECT_EQ(b->getSelectedDirW(), fromUTF8(tmp.str()));
     EXPECT_EQ(b->getTitle().getString(), WStr(L"Pick"));
 
