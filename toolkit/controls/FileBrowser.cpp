@@ -24,7 +24,8 @@ FileBrowser::FileBrowser(const FileBrowserBase::InitArgs& args) : FileBrowserBas
 
 std::vector<TableColumnDescription> FileBrowser::getColumnDefinitions() {
     std::vector<TableColumnDescription> columns = FileBrowserBase::getColumnDefinitions();
-    columns.push_back(fixedColumn(kSizeId, L"1023.9 MB", "size"));
+    // Folders have no size worth a column.
+    if (getSelectionMode() != kFolder) columns.push_back(fixedColumn(kSizeId, L"1023.9 MB", "size"));
     columns.push_back(fixedColumn(kModifiedId, L"2000-00-00 00:00", "date"));
     return columns;
 }

@@ -15,6 +15,7 @@ public:
     // screen, and the list has the keyboard focus.
     static FileBrowser* make(const FileBrowserBase::InitArgs& args, XY<int> position = {});
 
-    // Name, then size ("size") and date of change ("date") in columns of fixed width.
+    // Name, then size ("size", not in folder mode) and date of change ("date") in
+    // columns of fixed width.
     std::vector<TableColumnDescription> getColumnDefinitions() override;
 };
