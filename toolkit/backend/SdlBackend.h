@@ -26,6 +26,9 @@ public:
     // One turn of the loop, waiting at most `waitMs` for input.
     void runOnce(int waitMs);
     void quit() { quitting_ = true; }
+    // True once the window was asked to close or quit() was called: for a caller
+    // that turns the loop itself with runOnce().
+    bool quitRequested() const { return quitting_; }
 
     // Turns an SDL event into a toolkit event; kNone for events the toolkit does not take.
     // Exposed for tests; `screenHeight` flips SDL's top-down y to bottom-up.
