@@ -67,8 +67,10 @@ TEST(SdlBackend, TypedTextArrivesAsWideText) {
 TEST(SdlBackend, AnOpenWindowSharesTheClipboardWithTheSystem) {
     // SDL's off-screen driver keeps a clipboard of its own, which stands in for the system's.
     setenv("SDL_VIDEODRIVER", "offscreen", 1);
-    // The software renderer keeps the GL driver out: it leaks on unloading, which the leak checker reports.
+    // A software renderer on an unaccelerated window surface keeps the GL driver
+    // out: it leaks on unloading, which the leak checker reports.
     setenv("SDL_RENDER_DRIVER", "software", 1);
+    setenv("SDL_FRAMEBUFFER_ACCELERATION", "0", 1);
     {
         SdlBackend backend;
         ASSERT_TRUE(backend.open("clipboard test"));
@@ -83,4 +85,5 @@ TEST(SdlBackend, AnOpenWindowSharesTheClipboardWithTheSystem) {
     EXPECT_EQ(OS()->getClipboardText(), LightweightString<wchar_t>(L"in process")) << "the window's clipboard went with it";
     unsetenv("SDL_VIDEODRIVER");
     unsetenv("SDL_RENDER_DRIVER");
+    unsetenv("SDL_FRAMEBUFFER_ACCELERATION");
 }
