@@ -2,4 +2,5 @@ list(APPEND MOSAIC_SOURCES
   params/AttribValuePair.cpp
   params/Param.cpp
   params/ParamBase.cpp
+  params/SliderParamHost.cpp
 )

@@ -1,0 +1,12 @@
+#include "SliderParamHost.h"
+
+void SliderParamHost::resize(double w, double h) {
+    if (titled) titled->resize(titled->width() + w - width(), titled->height());
+    WidgetHost::resize(w, h);
+}
+
+void SliderParamHost::setActive(bool active, eRedrawFlag flag) {
+    for (unsigned short i = 0; i < numChildren(); ++i)
+        if (Glob* child = getWidget(i).child) child->setActive(active, kNoRedraw);
+    if (flag == kRedraw) redraw();
+}
