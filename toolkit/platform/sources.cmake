@@ -1,6 +1,7 @@
 list(APPEND GLOBKIT_SOURCES
   platform/Clock.cpp
   platform/CommandRegistrar.cpp
+  platform/ConfigbFile.cpp
   platform/Configuration.cpp
   platform/Cookie.cpp
   platform/CookieJar.cpp
