@@ -1,5 +1,11 @@
 list(APPEND MOSAIC_SOURCES
+  params/ActiveConstraint.cpp
   params/AttribValuePair.cpp
+  params/ChangeBroadcaster.cpp
   params/Param.cpp
   params/ParamBase.cpp
+  params/ParamBoundConstraint.cpp
+  params/UIBuilder.cpp
+  params/UIBuilderParams.cpp
+  params/VisibilityConstraint.cpp
 )

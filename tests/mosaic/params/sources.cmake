@@ -2,4 +2,7 @@ list(APPEND MOSAIC_TEST_SOURCES
   mosaic/params/ParamTest.cpp
   mosaic/params/ValueChangeRoadTest.cpp
   mosaic/params/ControlsRoadTest.cpp
+  mosaic/params/ParamConstraintsTest.cpp
+  mosaic/params/ParamsStateTest.cpp
+  mosaic/params/UIBuilderParamsTest.cpp
 )
