@@ -6,6 +6,7 @@ list(APPEND GLOBKIT_SOURCES
   platform/Cookie.cpp
   platform/CookieJar.cpp
   platform/EditorPreferences.cpp
+  platform/FilespecUtils.cpp
   platform/JSON.cpp
   platform/JSONBuilder.cpp
   platform/JSONElement.cpp
@@ -13,5 +14,6 @@ list(APPEND GLOBKIT_SOURCES
   platform/Paths.cpp
   platform/ResourceStrings.cpp
   platform/TextFile.cpp
+  platform/getSystemLogDirectory.cpp
   platform/configb.cpp
 )
