@@ -78,7 +78,7 @@ int runProbed(SdlBackend& window, GalleryProbe& probe) {
 int runWindow(const Options& o) {
     SdlBackend window;
     if (!window.open("Mosaic gallery")) {
-        std::fprintf(stderr, "mosaic-gallery: cannot open a window; use --screenshots DIR\n");
+        std::fprintf(stderr, "mosaic-gallery: cannot open a window (%s); use --screenshots DIR\n", SdlBackend::lastError());
         return 1;
     }
     const auto& scenes = GalleryScene::all();

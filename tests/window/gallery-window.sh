@@ -8,9 +8,10 @@ gallery=$1
 source "$(dirname "$0")/window-kit.sh"
 start_display
 start_gallery "$gallery" toolkit-demo --print-roots
+listed() { grep -q '^root ' "$work/out.txt"; }
+wait_until "the gallery's list of panels" listed
 sleep 1
 grep '^root ' "$work/out.txt" >"$work/roots.txt"
-[ -s "$work/roots.txt" ] || fail "the gallery listed no panels"
 
 # Drag the first panel 40 pixels right by its title bar, then look where its close box went.
 read -r _ _ px py pw _ _ cx cy < <(head -1 "$work/roots.txt")

@@ -42,14 +42,25 @@ cleanup() {
   rm -rf "$work"
 }
 
+display_ready() {
+  kill -0 "$xvfb" 2>/dev/null || { cat "$work/xvfb.log"; fail "the virtual display did not start"; }
+  grep -q '^[0-9][0-9]*$' "$work/display" 2>/dev/null
+}
+
 start_display() {
   need_tools
   work=$(mktemp -d)
   trap cleanup EXIT
-  display=:$((90 + RANDOM % 100))
-  Xvfb "$display" -screen 0 800x600x24 -nolisten tcp >"$work/xvfb.log" 2>&1 &
+  # The server picks a free display number and writes it once it takes clients,
+  # so that tests running at once never share or wait for a display. Without
+  # -noreset it resets whenever its last client leaves and refuses connections
+  # meanwhile: the gallery probes the display and then connects again at once.
+  Xvfb -displayfd 3 -noreset -screen 0 800x600x24 -nolisten tcp 3>"$work/display" >"$work/xvfb.log" 2>&1 &
   xvfb=$!
-  export DISPLAY=$display
+  wait_until "the virtual display to start" display_ready
+  export DISPLAY=:$(head -1 "$work/display")
+  # Only X: without it SDL may fall back to a driver that shows nothing here.
+  export SDL_VIDEODRIVER=x11
   # The display libraries load drivers at run time that keep allocations to exit;
   # leaks of our own code are the unit tests' business.
   export ASAN_OPTIONS="${ASAN_OPTIONS:-}:detect_leaks=0"

@@ -101,6 +101,8 @@ bool SdlBackend::displayAvailable() {
     return true;
 }
 
+const char* SdlBackend::lastError() { return SDL_GetError(); }
+
 bool SdlBackend::isOpen() const { return impl_->window != nullptr; }
 
 bool SdlBackend::open(const char* title) {

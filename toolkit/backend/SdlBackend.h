@@ -16,6 +16,8 @@ public:
 
     // True when SDL has a video driver that can open a window here.
     static bool displayAvailable();
+    // Why the last SDL call failed, for telling the user; empty when nothing did.
+    static const char* lastError();
 
     // Opens the window the size of the screen. False when no window can be made.
     bool open(const char* title);

@@ -6,4 +6,6 @@ list(APPEND GLOBKIT_SOURCES
   core/Palette.cpp
   core/UIString.cpp
   core/Utf8.cpp
+  core/WStringFromAscii.cpp
+  core/splitIf.cpp
 )

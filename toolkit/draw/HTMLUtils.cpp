@@ -70,3 +70,19 @@ LightweightString<wchar_t> HTMLUtils::colourCode(const Colour& colour) {
     if ((argb >> 24) != 0xFF) appendHexByte(code, argb >> 24);
     return LightweightString<wchar_t>(code);
 }
+
+LightweightString<wchar_t> HTMLUtils::escape(const LightweightString<wchar_t>& text) {
+    if (text.find_first_of(L"&<>\"") == LightweightString<wchar_t>::npos) return text;
+    std::wstring out;
+    out.reserve(text.size() + 16);
+    for (wchar_t c : text) {
+        switch (c) {
+        case L'&': out += L"&amp;"; break;
+        case L'<': out += L"&lt;"; break;
+        case L'>': out += L"&gt;"; break;
+        case L'"': out += L"&quot;"; break;
+        default: out += c;
+        }
+    }
+    return LightweightString<wchar_t>(out);
+}

@@ -26,6 +26,10 @@ public:
 
     static LightweightString<wchar_t> addTags(const LightweightString<wchar_t>& text, std::wstring_view open, std::wstring_view close,
                                               int start, int end);
+    // Plain text made safe to stand inside mark-up: & < > and " become entities,
+    // which HTMLRenderer reads back as the characters. Apply before adding tags.
+    static LightweightString<wchar_t> escape(const LightweightString<wchar_t>& text);
+
     // "#rrggbb", or "#rrggbbaa" when the colour is not opaque.
     static LightweightString<wchar_t> colourCode(const Colour& colour);
 };

@@ -1,10 +1,12 @@
 list(APPEND GLOBKIT_SOURCES
   platform/Clock.cpp
   platform/CommandRegistrar.cpp
+  platform/ConfigbFile.cpp
   platform/Configuration.cpp
   platform/Cookie.cpp
   platform/CookieJar.cpp
   platform/EditorPreferences.cpp
+  platform/FilespecUtils.cpp
   platform/JSON.cpp
   platform/JSONBuilder.cpp
   platform/JSONElement.cpp
@@ -12,5 +14,6 @@ list(APPEND GLOBKIT_SOURCES
   platform/Paths.cpp
   platform/ResourceStrings.cpp
   platform/TextFile.cpp
+  platform/getSystemLogDirectory.cpp
   platform/configb.cpp
 )

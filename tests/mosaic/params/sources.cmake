@@ -3,4 +3,7 @@ list(APPEND MOSAIC_TEST_SOURCES
   mosaic/params/ValueChangeRoadTest.cpp
   mosaic/params/ControlsRoadTest.cpp
   mosaic/params/TitledRowsTest.cpp
+  mosaic/params/ParamConstraintsTest.cpp
+  mosaic/params/ParamsStateTest.cpp
+  mosaic/params/UIBuilderParamsTest.cpp
 )

@@ -2,6 +2,7 @@ list(APPEND GLOBKIT_TEST_SOURCES
   toolkit/core/ColourTest.cpp
   toolkit/core/LightweightStringTest.cpp
   toolkit/core/PtrTest.cpp
+  toolkit/core/StringHelpersTest.cpp
   toolkit/core/Utf8Test.cpp
   toolkit/core/ValueTypesTest.cpp
 )

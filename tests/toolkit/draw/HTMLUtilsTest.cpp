@@ -68,3 +68,20 @@ TEST(HTMLUtils, StylesAndColoursReadBackThroughTheRenderer) {
     EXPECT_TRUE(underlined[0].runs.at(0).underline);
     EXPECT_EQ(underlined[0].runs.at(0).font.style, Glib::FontDesc::kBold);
 }
+
+TEST(HTMLUtils, EscapingKeepsMarkupCharactersInTextAsText) {
+    EXPECT_EQ(HTMLUtils::escape(L"a < b && c > \"d\""), L"a &lt; b &amp;&amp; c &gt; &quot;d&quot;");
+    EXPECT_EQ(HTMLUtils::escape(L"plain"), L"plain");
+    EXPECT_TRUE(HTMLUtils::escape(L"").empty());
+    EXPECT_EQ(HTMLUtils::escape(L"&lt;"), L"&amp;lt;") << "an entity in the text is text too";
+
+    // A log line that looks like mark-up reads back as the very same characters.
+    LightweightString<wchar_t> line(L"<b>not bold</b> & <font color=\"#ff0000\">x</font>");
+    auto html = HTMLUtils::addColourTags(HTMLUtils::escape(line), 1.0, 0.0, 0.0, 1.0, -1, -1);
+    auto ps = readBack(HTMLUtils::addParagraphTags(html));
+    ASSERT_EQ(ps.size(), 1u);
+    ASSERT_EQ(ps[0].runs.size(), 1u);
+    EXPECT_EQ(ps[0].runs[0].text, line);
+    EXPECT_EQ(ps[0].runs[0].font.style, Glib::FontDesc::kPlain);
+    EXPECT_EQ(asARGB(ps[0].runs[0].colour), 0xFFFF0000u);
+}

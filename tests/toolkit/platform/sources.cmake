@@ -1,4 +1,6 @@
 list(APPEND GLOBKIT_TEST_SOURCES
+  toolkit/platform/ConfigbFileTest.cpp
+  toolkit/platform/FilespecUtilsTest.cpp
   toolkit/platform/JsonTest.cpp
   toolkit/platform/PlatformTest.cpp
 )
