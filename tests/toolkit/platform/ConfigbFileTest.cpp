@@ -65,7 +65,8 @@ TEST(ConfigbFile, EntriesOfTheWrongShapeAreDroppedAndTheRestKept) {
 
 TEST(ConfigbFile, SavedFilesLoadBackAndBadOnesChangeNothing) {
     TempFolder dir;
-    const LightweightString<wchar_t> path(std::wstring(dir.file("panel.state").begin(), dir.file("panel.state").end()));
+    const std::string file = dir.file("panel.state");
+    const LightweightString<wchar_t> path(std::wstring(file.begin(), file.end()));
     ASSERT_TRUE(ConfigbFile::save(sample(), path));
     configb loaded;
     ASSERT_TRUE(ConfigbFile::load(path, loaded));
