@@ -2,6 +2,7 @@
 
 #include "PangoSupport.h"
 #include "Canvas.h"
+#include "TextAdvanceCache.h"
 #include "core/Utf8.h"
 
 #include <algorithm>
@@ -112,6 +113,9 @@ void WordWrappingTextRenderer::render(Canvas* canvas, const BoxInt& box, int top
 }
 
 unsigned short WordWrappingTextRenderer::calcNumDisplayLines(const LightweightString<wchar_t>& text, int width, const FontDesc& font) {
+    // A layout costs tens of microseconds even for a short line, too slow for a log that
+    // wraps its rows as fast as they come; plain Latin text is counted from cached advances.
+    if (int n = TextAdvanceCache::forThisThread().countLines(text.view(), width, font); n > 0) return clampCount(n);
     return WordWrappingTextRenderer(text, font, width).numLines();
 }
 

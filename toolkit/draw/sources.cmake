@@ -4,6 +4,7 @@ list(APPEND GLOBKIT_SOURCES
   draw/FontDesc.cpp
   draw/Screen.cpp
   draw/StateSaver.cpp
+  draw/TextAdvanceCache.cpp
   draw/TextLayout.cpp
   draw/WordWrappingTextRenderer.cpp
   draw/HTMLParser.cpp

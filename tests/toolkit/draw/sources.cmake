@@ -1,6 +1,7 @@
 list(APPEND GLOBKIT_TEST_SOURCES
   toolkit/draw/CanvasTest.cpp
   toolkit/draw/PanelPaintingTest.cpp
+  toolkit/draw/TextAdvanceCacheTest.cpp
   toolkit/draw/TextLayoutTest.cpp
   toolkit/draw/TextTest.cpp
   toolkit/draw/HTMLParseTest.cpp

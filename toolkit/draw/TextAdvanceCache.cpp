@@ -1,0 +1,191 @@
+#include "TextAdvanceCache.h"
+
+#include "PangoSupport.h"
+#include "core/Utf8.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace Glib {
+
+namespace {
+
+// Characters 0x20 .. 0x17F: ASCII, Latin-1 and Latin Extended-A.
+constexpr wchar_t kFirst = 0x20;
+constexpr wchar_t kLast = 0x17F;
+constexpr std::size_t kSpan = kLast - kFirst + 1;
+constexpr std::int32_t kUnknown = std::numeric_limits<std::int32_t>::min();
+constexpr std::int16_t kUnknownPair = std::numeric_limits<std::int16_t>::min();
+// How close to the width a line may end before Pango is asked instead: the pair
+// model misses shaping across three or more characters (a ligature "ffi").
+constexpr std::int64_t kMargin = 2 * PANGO_SCALE;
+// As WordWrappingTextRenderer::createLayout.
+constexpr int kWidest = 1 << 20;
+
+static_assert(TextAdvanceCache::kUnitsPerPixel == PANGO_SCALE);
+
+std::size_t slot(wchar_t c) { return static_cast<std::size_t>(c - kFirst); }
+
+bool isOpening(wchar_t c) { return c == L'(' || c == L'['; }
+
+// Closing brackets and the separators of numbers never start a line, not even after spaces.
+bool isNeverAfterSpace(wchar_t c) { return std::wstring_view(L")].,:;").find(c) != std::wstring_view::npos; }
+
+bool isQuote(wchar_t c) { return c == L'"' || c == L'\''; }
+
+// The end of the unbreakable stretch from `i`: a word, and the spaces and the
+// word that follow when the line-breaking rules allow no break between: after
+// an opening bracket, before a closing one or a separator, and between a quote
+// and an opening bracket.
+std::size_t unitEnd(std::wstring_view p, std::size_t i) {
+    std::size_t end = std::min(p.find(L' ', i), p.size());
+    while (end < p.size()) {
+        std::size_t next = p.find_first_not_of(L' ', end);
+        if (next == std::wstring_view::npos) break;
+        bool glued = isOpening(p[end - 1]) || isNeverAfterSpace(p[next]) || (isQuote(p[end - 1]) && isOpening(p[next]));
+        if (!glued) break;
+        end = std::min(p.find(L' ', next), p.size());
+    }
+    return end;
+}
+
+} // namespace
+
+class TextAdvanceCache::FontTable {
+public:
+    explicit FontTable(const FontDesc& f) : font(f), layout_(pango_layout_new(layoutContext())) {
+        PangoFontDescription* d = makePangoFont(f);
+        pango_layout_set_font_description(layout_, d);
+        pango_font_description_free(d);
+        advances_.fill(kUnknown);
+    }
+    ~FontTable() { g_object_unref(layout_); }
+    FontTable(const FontTable&) = delete;
+    FontTable& operator=(const FontTable&) = delete;
+
+    std::int32_t advance(wchar_t c) {
+        std::int32_t& a = advances_[slot(c)];
+        if (a == kUnknown) a = measureRaw(std::wstring_view(&c, 1));
+        return a;
+    }
+    std::int32_t kerning(wchar_t a, wchar_t b) {
+        if (pairs_.empty()) pairs_.assign(kSpan * kSpan, kUnknownPair);
+        std::int16_t& k = pairs_[slot(a) * kSpan + slot(b)];
+        if (k == kUnknownPair) {
+            wchar_t both[2] = {a, b};
+            std::int32_t raw = measureRaw(std::wstring_view(both, 2)) - advance(a) - advance(b);
+            k = static_cast<std::int16_t>(std::clamp<std::int32_t>(raw, -32767, 32767));
+        }
+        return k;
+    }
+    // The width of a run of simple characters, kerning inside it included.
+    std::int64_t run(std::wstring_view s) {
+        std::int64_t w = 0;
+        for (std::size_t i = 0; i < s.size(); ++i) {
+            w += advance(s[i]);
+            if (i > 0) w += kerning(s[i - 1], s[i]);
+        }
+        return w;
+    }
+
+    FontDesc font;
+
+private:
+    std::int32_t measureRaw(std::wstring_view s) {
+        LightweightString<char> utf8 = toUTF8(LightweightString<wchar_t>(s));
+        pango_layout_set_text(layout_, utf8.c_str(), static_cast<int>(utf8.size()));
+        PangoRectangle logical;
+        pango_layout_get_extents(layout_, nullptr, &logical);
+        return logical.width;
+    }
+
+    PangoLayout* layout_;
+    std::array<std::int32_t, kSpan> advances_;
+    std::vector<std::int16_t> pairs_;
+};
+
+TextAdvanceCache& TextAdvanceCache::forThisThread() {
+    thread_local TextAdvanceCache cache;
+    return cache;
+}
+
+TextAdvanceCache::TextAdvanceCache() = default;
+TextAdvanceCache::~TextAdvanceCache() = default;
+
+bool TextAdvanceCache::isSimple(wchar_t c) {
+    if ((c >= L'a' && c <= L'z') || (c >= L'A' && c <= L'Z') || (c >= L'0' && c <= L'9')) return true;
+    // Hyphens, slashes and | ! ? { } % $ + \ open breaks of their own, which are not modelled.
+    if (std::wstring_view(L" .,:;'\"()[]_#@&*=<>~`^").find(c) != std::wstring_view::npos) return true;
+    // Latin letters past ASCII, without the multiplication and division signs.
+    return c >= 0xC0 && c <= kLast && c != 0xD7 && c != 0xF7;
+}
+
+TextAdvanceCache::FontTable& TextAdvanceCache::tableFor(const FontDesc& font) {
+    for (auto& t : tables_)
+        if (t->font == font) return *t;
+    tables_.push_back(std::make_unique<FontTable>(font));
+    return *tables_.back();
+}
+
+std::int64_t TextAdvanceCache::measure(std::wstring_view text, const FontDesc& font) {
+    if (!std::all_of(text.begin(), text.end(), isSimple)) return -1;
+    return tableFor(font).run(text);
+}
+
+int TextAdvanceCache::countLines(std::wstring_view text, int width, const FontDesc& font) {
+    for (wchar_t c : text)
+        if (c != L'\n' && !isSimple(c)) return 0;
+    std::int64_t limit = width > 0 ? std::int64_t(std::min(width, kWidest)) * PANGO_SCALE : -1;
+    FontTable& table = tableFor(font);
+    int lines = 0;
+    // Pango makes a line of every paragraph, the empty ones too.
+    for (std::size_t start = 0;;) {
+        std::size_t end = std::min(text.find(L'\n', start), text.size());
+        int n = limit < 0 ? 1 : countParagraph(text.substr(start, end - start), limit, table);
+        if (n == 0) return 0;
+        lines += n;
+        if (end == text.size()) return lines;
+        start = end + 1;
+    }
+}
+
+// Greedy breaking at spaces, as Pango does for such text: a word goes to the next
+// line when it does not fit, and of the spaces at a break only the last hangs
+// past the width; the others count. The answer is 0 when a decision lies within
+// the margin, a word alone is too wide, or spaces end the paragraph, where Pango's
+// choice is not modelled.
+int TextAdvanceCache::countParagraph(std::wstring_view p, std::int64_t width, FontTable& table) {
+    auto tooClose = [width](std::int64_t w) { return w > width - kMargin && w < width + kMargin; };
+    std::size_t firstWord = p.find_first_not_of(L' ');
+    if (firstWord == std::wstring_view::npos) return 1;
+    if (p.size() - p.find_last_not_of(L' ') > 2) return 0;
+    int lines = 1;
+    std::int64_t lineWidth = 0; // to the end of the last word on the line
+    // Leading spaces belong to the first line and count in its width.
+    std::int64_t pending = table.run(p.substr(0, firstWord));
+    for (std::size_t i = firstWord; i < p.size();) {
+        std::size_t wordEnd = unitEnd(p, i);
+        std::size_t next = std::min(p.find_first_not_of(L' ', wordEnd), p.size());
+        std::wstring_view word = p.substr(i, wordEnd - i);
+        std::int64_t wordWidth = table.run(word);
+        std::int64_t joined = lineWidth + pending + wordWidth + (pending ? table.kerning(L' ', word.front()) : 0);
+        // Were the line to break after this word, all but the last of its spaces.
+        std::int64_t after = next - wordEnd > 1 ? table.run(p.substr(wordEnd, next - wordEnd - 1)) + table.kerning(word.back(), L' ') : 0;
+        if (tooClose(joined + after) || tooClose(wordWidth + after) || wordWidth + after >= width) return 0;
+        bool first = i == firstWord;
+        // Leading spaces that push the first word over would make a line of their own.
+        if (first && joined + after > width) return 0;
+        if (first || joined + after <= width) {
+            lineWidth = joined;
+        } else {
+            ++lines;
+            lineWidth = wordWidth;
+        }
+        pending = wordEnd < next ? table.run(p.substr(wordEnd, next - wordEnd)) + table.kerning(word.back(), L' ') : 0;
+        i = next;
+    }
+    return lines;
+}
+
+} // namespace Glib

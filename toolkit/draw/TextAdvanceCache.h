@@ -1,0 +1,49 @@
+#pragma once
+
+#include "FontDesc.h"
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace Glib {
+
+// Counts the lines of word-wrapped text without a Pango layout, for the text
+// that logs are mostly made of: Latin letters, digits, spaces and the punctuation
+// around which the line-breaking rules allow a break only at spaces. Widths come
+// from the advance of each character and the kerning of each pair, each measured
+// by Pango once and cached, so the count is Pango's own. Anything else (other
+// scripts, tabs, hyphens and slashes, a word too wide for a line, a line that ends
+// within a hair of the width) is left to Pango: the answer is then 0.
+// One cache per thread, like the Pango context it measures with.
+class TextAdvanceCache {
+public:
+    static TextAdvanceCache& forThisThread();
+
+    // The number of lines Pango makes of `text` at `width` pixels (0 or less: no
+    // wrapping), or 0 when this cache cannot be sure.
+    int countLines(std::wstring_view text, int width, const FontDesc& font);
+    // The width in Pango units of one line of text, or -1 when it is not simple.
+    std::int64_t measure(std::wstring_view text, const FontDesc& font);
+
+    // Pango units in a pixel, for readers of measure().
+    static constexpr int kUnitsPerPixel = 1024;
+
+    // True for a character whose breaks and shaping this cache models.
+    static bool isSimple(wchar_t c);
+
+    TextAdvanceCache();
+    ~TextAdvanceCache();
+    TextAdvanceCache(const TextAdvanceCache&) = delete; // holds Pango objects of one thread
+    TextAdvanceCache& operator=(const TextAdvanceCache&) = delete;
+
+private:
+    class FontTable;
+    FontTable& tableFor(const FontDesc& font);
+    int countParagraph(std::wstring_view paragraph, std::int64_t width, FontTable& table);
+
+    std::vector<std::unique_ptr<FontTable>> tables_;
+};
+
+} // namespace Glib
