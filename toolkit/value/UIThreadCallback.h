@@ -29,8 +29,11 @@ public:
     int execute(const E& e) override {
         if (callerCheck_ && callerCheck_->execute(e) == 0) return 0;
         if (!alwaysDefer_ && co_pid() == 0) return executeInternal(e);
+        // One shared name: a string made per call would cost an allocation on this
+        // thread and a free on the UI thread, which contend for the heap.
+        static const LightweightString<char> name("Hello");
         Zn::Ptr<UIThreadCallback> self(this);
-        sendMessageWithData("Hello", static_cast<EventHandler*>(this), Zn::Ptr<iObject>(new DeferredCallback(self, e)), nullptr);
+        sendMessageWithData(name, static_cast<EventHandler*>(this), Zn::Ptr<iObject>(new DeferredCallback(self, e)), nullptr);
         return 0;
     }
 
