@@ -63,16 +63,7 @@ public:
     }
 };
 
-StandardPanel* makePanel(int w, int h, const wchar_t* title, XY<int> at) {
-    StandardPanel::InitArgs args(static_cast<unsigned short>(w), static_cast<unsigned short>(h));
-    args.palette = UifStd::instance().getColourScheme();
-    auto* p = new StandardPanel(args);
-    p->setBorder(StandardPanel::getDefaultBorder());
-    p->setTitle(UIString(title));
-    p->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kMoveByTitle | StandardPanel::kResizeGrip);
-    p->setupRootPos(at);
-    return p;
-}
+constexpr int kFurniture = StandardPanel::kCloseBox | StandardPanel::kMoveByTitle | StandardPanel::kResizeGrip;
 
 void buildDemo() {
     const UifStd& u = UifStd::instance();
@@ -80,7 +71,7 @@ void buildDemo() {
     Drawable::disableRedraws();
 
     const Screen& screen = GlobManager::instance().screen();
-    StandardPanel* main = makePanel(520, 340, L"Toolkit demo", {40, screen.height() - 40 - 340});
+    StandardPanel* main = GalleryScene::makePanel(520, 340, L"Toolkit demo", {40, screen.height() - 40 - 340}, kFurniture);
     Swatch::InitArgs red(110, u.getRowHeight(), Colour(0.75, 0.2, 0.2), L"Top left");
     Glob* first = main->createWidget<Swatch>(red, Glob::UserTopLeft(gap, gap));
     Swatch::InitArgs green(110, u.getRowHeight(), Colour(0.2, 0.6, 0.3), L"Below");
@@ -96,7 +87,7 @@ void buildDemo() {
     main->createWidget<TextSample>(text, Glob::UserBottomLeft(gap, gap + u.getRowHeight() + gap));
     GlobManager::instance().realize(main);
 
-    StandardPanel* side = makePanel(300, 220, L"Second panel", {0, 0});
+    StandardPanel* side = GalleryScene::makePanel(300, 220, L"Second panel", {0, 0}, kFurniture);
     GlobCreationInfo sideInfo(300, 220);
     side->setupRootPos(GlobManager::instance().getPosForGlob(sideInfo, Glob::RightOf(gap * 3, main, kAlignEnd)));
     auto* inner = new StandardPanel(StandardPanel::InitArgs(GlobCreationInfo(200, 100, side->getPalette(), true, side->canvas()),

@@ -106,17 +106,6 @@ BinTree& bins() {
     return b;
 }
 
-StandardPanel* makePanel(int w, int h, const wchar_t* title, XY<int> at) {
-    StandardPanel::InitArgs args(static_cast<unsigned short>(w), static_cast<unsigned short>(h));
-    args.palette = UifStd::instance().getColourScheme();
-    auto* p = new StandardPanel(args);
-    p->setBorder(StandardPanel::getDefaultBorder());
-    p->setTitle(UIString(title));
-    p->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kMoveByTitle);
-    p->setupRootPos(at);
-    return p;
-}
-
 void buildLists() {
     const UifStd& u = UifStd::instance();
     int gap = u.getWidgetGap(), row = u.getRowHeight();
@@ -125,7 +114,7 @@ void buildLists() {
 
     // Tall enough for the clip table (a header and eight rows) over the log (four rows).
     int mainHeight = 13 * row + 2 * gap + u.getTitleHeight() + 2 * u.getBorderWidth();
-    StandardPanel* main = makePanel(1000, mainHeight, L"Lists, trees and tables", {40, screen.height() - 60 - mainHeight});
+    StandardPanel* main = GalleryScene::makePanel(1000, mainHeight, L"Lists, trees and tables", {40, screen.height() - 60 - mainHeight});
 
     ScrollList::InitArgs list(200, static_cast<unsigned short>(12 * row));
     for (const WStr& n : clips().names) {
@@ -156,7 +145,7 @@ void buildLists() {
     GlobManager::instance().realize(main);
 
     // A scrolling panel of rows, and scroll bars on their own in each state.
-    StandardPanel* side = makePanel(520, 7 * row + 3 * gap + u.getTitleHeight(), L"Scrolling panel and scroll bars", {0, 0});
+    StandardPanel* side = GalleryScene::makePanel(520, 7 * row + 3 * gap + u.getTitleHeight(), L"Scrolling panel and scroll bars", {0, 0});
     side->setupRootPos({40, main->getY() - gap * 3 - side->height()});
     VerticalScrollingBase::InitArgs rows(260, static_cast<unsigned short>(6 * row));
     auto* scroller = side->createWidget<VerticalScrollingBase>(rows, Glob::UserTopLeft(gap, gap));

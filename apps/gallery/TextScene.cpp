@@ -22,17 +22,6 @@ public:
     ValServer<int> opacity{75};
 };
 
-StandardPanel* makePanel(int w, int h, const wchar_t* title, XY<int> at, bool withServer) {
-    StandardPanel::InitArgs args(static_cast<unsigned short>(w), static_cast<unsigned short>(h));
-    args.palette = UifStd::instance().getColourScheme();
-    StandardPanel* p = withServer ? new TextPanel(args) : new StandardPanel(args);
-    p->setBorder(StandardPanel::getDefaultBorder());
-    p->setTitle(UIString(title));
-    p->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kMoveByTitle);
-    p->setupRootPos(at);
-    return p;
-}
-
 template <class T>
 T* place(StandardPanel* p, typename T::InitArgs args, const WidgetPosition& at) {
     T* w = p->createWidget<T>(args, at);
@@ -55,7 +44,7 @@ TitleTextBox* formRow(StandardPanel* p, const wchar_t* legend, const wchar_t* te
 StandardPanel* buildForm(XY<int> at) {
     const UifStd& u = UifStd::instance();
     int row = TextBox::calcHeight();
-    StandardPanel* p = makePanel(440, 7 * (row + u.getRowGap()) + u.getTitleHeight() + 3 * u.getWidgetGap(), L"Text boxes", at, false);
+    StandardPanel* p = GalleryScene::makePanel(440, 7 * (row + u.getRowGap()) + u.getTitleHeight() + 3 * u.getWidgetGap(), L"Text boxes", at);
     int title = 120;
     TitleTextBox* name = formRow(p, L"Clip name", L"Interview, take 3", nullptr, title);
     TitleTextBox* notes = formRow(p, L"Focused", L"Selected words show in the selection colour", name, title);
@@ -80,7 +69,7 @@ StandardPanel* buildForm(XY<int> at) {
 StandardPanel* buildNumbersAndNotes(StandardPanel* form) {
     const UifStd& u = UifStd::instance();
     int gap = u.getWidgetGap(), row = TextBox::calcHeight();
-    StandardPanel* p = makePanel(420, 230, L"Numbers and notes", {0, 0}, true);
+    StandardPanel* p = GalleryScene::makePanel<TextPanel>(420, 230, L"Numbers and notes", {0, 0});
     GlobCreationInfo size(420, 230);
     p->setupRootPos(GlobManager::instance().getPosForGlob(size, Glob::RightOf(gap * 3, form, kAlignEnd)));
     auto& opacity = static_cast<TextPanel*>(p)->opacity;

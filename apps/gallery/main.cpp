@@ -19,15 +19,6 @@
 
 namespace {
 
-void clearScreen() {
-    GlobManager& gm = GlobManager::instance();
-    gm.runUntilIdle();
-    auto roots = gm.roots();
-    for (Glob* g : roots)
-        if (is_good_glob_ptr(g)) delete g;
-    gm.runUntilIdle();
-}
-
 int writeScreenshots(const std::string& dir, const std::string& only) {
     std::error_code ec;
     std::filesystem::create_directories(dir, ec);
@@ -38,7 +29,7 @@ int writeScreenshots(const std::string& dir, const std::string& only) {
     int written = 0;
     for (const GalleryScene& scene : GalleryScene::all()) {
         if (!only.empty() && scene.name.str() != only) continue;
-        clearScreen();
+        GalleryScene::clearScreen();
         scene.build();
         GlobManager::instance().runUntilIdle();
         std::string path = (std::filesystem::path(dir) / (scene.name.str() + ".png")).string();
@@ -49,7 +40,7 @@ int writeScreenshots(const std::string& dir, const std::string& only) {
         std::printf("%s\n", path.c_str());
         ++written;
     }
-    clearScreen();
+    GalleryScene::clearScreen();
     if (written == 0) {
         std::fprintf(stderr, "mosaic-gallery: no scene named %s\n", only.c_str());
         return 1;

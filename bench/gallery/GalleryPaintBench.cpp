@@ -11,28 +11,9 @@
 
 namespace {
 
-void clearScreen() {
-    GlobManager& gm = GlobManager::instance();
-    gm.runUntilIdle();
-    auto roots = gm.roots();
-    for (Glob* g : roots)
-        if (is_good_glob_ptr(g)) delete g;
-    gm.runUntilIdle();
-}
-
-int countControls() {
-    int n = 0;
-    for (Glob* root : GlobManager::instance().roots())
-        root->visitSubtree([&](Glob* g) {
-            n += g != root;
-            return true;
-        });
-    return n;
-}
-
 void paintScene(benchmark::State& state, const GalleryScene& scene) {
     GlobManager& gm = GlobManager::instance();
-    clearScreen();
+    GalleryScene::clearScreen();
     scene.build();
     gm.runUntilIdle();
     if (gm.screen().width() != 1920 || gm.screen().height() != 1080) state.SkipWithError("screen is not 1920x1080");
@@ -41,8 +22,8 @@ void paintScene(benchmark::State& state, const GalleryScene& scene) {
         gm.compose();
         benchmark::DoNotOptimize(gm.screen().pixel(100, 100));
     }
-    state.counters["controls"] = countControls();
-    clearScreen();
+    state.counters["controls"] = GalleryScene::countControls();
+    GalleryScene::clearScreen();
 }
 
 } // namespace
