@@ -8,6 +8,8 @@ cd "$(dirname "$0")/.."
 bash scripts/setup.sh
 
 jobs=$(nproc)
+# ccache keys paths inside the tree relative to it, so any clone shares the cache.
+export CCACHE_BASEDIR="$PWD"
 export CTEST_OUTPUT_ON_FAILURE=1
 
 run_suite() {

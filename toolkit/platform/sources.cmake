@@ -13,6 +13,7 @@ list(APPEND GLOBKIT_SOURCES
   platform/OS.cpp
   platform/Paths.cpp
   platform/ResourceStrings.cpp
+  platform/SystemWatchdog.cpp
   platform/TextFile.cpp
   platform/getSystemLogDirectory.cpp
   platform/configb.cpp

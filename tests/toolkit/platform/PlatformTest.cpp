@@ -11,6 +11,7 @@
 #include "platform/OS.h"
 #include "platform/Paths.h"
 #include "platform/ResourceStrings.h"
+#include "platform/SystemWatchdog.h"
 
 #include <gtest/gtest.h>
 #include <loki/Singleton.h>
@@ -192,4 +193,25 @@ TEST(Loki, ThreadsRacingOnFirstUseGetOneInstance) {
     for (auto& t : threads) t.join();
     EXPECT_EQ(Counted::made.load(), 1);
     for (Counted* p : got) EXPECT_EQ(p, got[0]);
+}
+
+TEST(SystemWatchdog, ABeatKeepsItAwakeAndLifeSupportCoversASilence) {
+    Clock::setTestTime(10'000);
+    SystemWatchdog::heartbeat();
+    const auto beats = SystemWatchdog::heartbeatCount();
+    EXPECT_EQ(SystemWatchdog::lastHeartbeat(), 10'000);
+    Clock::advanceTestTime(5'000);
+    EXPECT_TRUE(SystemWatchdog::seemsHung(4'000));
+    EXPECT_FALSE(SystemWatchdog::seemsHung(6'000));
+
+    SystemWatchdog::beginLifeSupport();
+    Clock::advanceTestTime(60'000);
+    EXPECT_FALSE(SystemWatchdog::seemsHung(4'000)) << "a long task said it would be long";
+    SystemWatchdog::endLifeSupport();
+    SystemWatchdog::endLifeSupport(); // one too many: ignored
+    EXPECT_FALSE(SystemWatchdog::onLifeSupport());
+    EXPECT_EQ(SystemWatchdog::heartbeatCount(), beats + 3);
+    Clock::advanceTestTime(5'000);
+    EXPECT_TRUE(SystemWatchdog::seemsHung(4'000));
+    Clock::clearTestTime();
 }

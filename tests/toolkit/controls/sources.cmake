@@ -1,3 +1,0 @@
-foreach(family basic menus values lists text panels files)
-  include(${CMAKE_CURRENT_LIST_DIR}/sources-${family}.cmake OPTIONAL)
-endforeach()
