@@ -6,7 +6,12 @@ list(APPEND MOSAIC_SOURCES
   params/ParamBase.cpp
   params/SliderParamHost.cpp
   params/ParamBoundConstraint.cpp
+  params/TitledFileChooserButton.cpp
   params/UIBuilder.cpp
+  params/UIBuilderJSON.cpp
+  params/UIBuilderRows.cpp
   params/UIBuilderParams.cpp
+  params/UIBuilderExample.cpp
+  params/HostPanel.cpp
   params/VisibilityConstraint.cpp
 )

@@ -3,7 +3,7 @@
 #include "ParamTestSupport.h"
 #include "core/FunctionCallback.h"
 #include "core/Utf8.h"
-#include "params/UIBuilder.h"
+#include "params/UIBuilderParams.h"
 
 #include <string>
 #include <vector>

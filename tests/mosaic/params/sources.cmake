@@ -6,4 +6,6 @@ list(APPEND MOSAIC_TEST_SOURCES
   mosaic/params/ParamConstraintsTest.cpp
   mosaic/params/ParamsStateTest.cpp
   mosaic/params/UIBuilderParamsTest.cpp
+  mosaic/params/UIBuilderTest.cpp
+  mosaic/params/UIBuilderJSONTest.cpp
 )
