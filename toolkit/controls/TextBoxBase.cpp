@@ -135,7 +135,7 @@ void TextBoxBase::setActive(bool active, eRedrawFlag flag) {
 
 void TextBoxBase::moveCaret(std::size_t index, bool extend) {
     index = std::min(index, text_.size());
-    if (!layout().isCaretStop(index)) index = layout().nextCaretStop(index, 1);
+    if (!isCaretStop(index)) index = nextCaretStop(index, 1);
     caret_ = index;
     if (!extend) anchor_ = caret_;
     lastEdit_ = kOtherEdit;
@@ -252,7 +252,7 @@ bool TextBoxBase::insertText(const LightweightString<wchar_t>& text) {
 void TextBoxBase::deleteBackwards(bool word) {
     if (!hasSelection()) {
         if (caret_ == 0) return;
-        anchor_ = word ? wordStart(caret_) : layout().nextCaretStop(caret_, -1);
+        anchor_ = word ? wordStart(caret_) : nextCaretStop(caret_, -1);
     }
     if (replaceSelection({}, kDeleting)) fireCallback(kCharTyped);
 }
@@ -260,7 +260,7 @@ void TextBoxBase::deleteBackwards(bool word) {
 void TextBoxBase::deleteForwards(bool word) {
     if (!hasSelection()) {
         if (caret_ >= text_.size()) return;
-        anchor_ = word ? wordEnd(caret_) : layout().nextCaretStop(caret_, 1);
+        anchor_ = word ? wordEnd(caret_) : nextCaretStop(caret_, 1);
     }
     if (replaceSelection({}, kDeleting)) fireCallback(kCharTyped);
 }
@@ -455,13 +455,13 @@ int TextBoxBase::handleKeyboardEvent(int keyCode) {
         if (hasSelection() && !shift)
             moveCaret(selectionStart(), false);
         else
-            moveCaret(word ? wordStart(caret_) : layout().nextCaretStop(caret_, -1), shift);
+            moveCaret(word ? wordStart(caret_) : nextCaretStop(caret_, -1), shift);
         return 1;
     case Keys::Right:
         if (hasSelection() && !shift)
             moveCaret(selectionEnd(), false);
         else
-            moveCaret(word ? wordEnd(caret_) : layout().nextCaretStop(caret_, 1), shift);
+            moveCaret(word ? wordEnd(caret_) : nextCaretStop(caret_, 1), shift);
         return 1;
     case Keys::Home: moveCaret(word ? 0 : homeOf(caret_), shift); return 1;
     case Keys::End: moveCaret(word ? text_.size() : endOf(caret_), shift); return 1;
@@ -495,7 +495,7 @@ int TextBoxBase::handleMouseEvent(const Event& e) {
     if (!editable_ || !isActive()) return 0;
     if (mouse_down_event(e) && mouse_left_event(e)) {
         if (!hasKbdFocus() && !claimKbdFocus()) return 0;
-        std::size_t at = layout().indexAt(toLayout(e.pos()));
+        std::size_t at = indexAtPoint(e.pos());
         dragging_ = false;
         if (e.clickCount() == 2) {
             selectRunAround(at);
@@ -508,7 +508,7 @@ int TextBoxBase::handleMouseEvent(const Event& e) {
         return 1;
     }
     if (dragging_ && (mouse_move_event(e) || mouse_up_event(e))) {
-        moveCaret(layout().indexAt(toLayout(e.pos())), true);
+        moveCaret(indexAtPoint(e.pos()), true);
         if (mouse_up_event(e)) dragging_ = false;
         return 1;
     }
@@ -522,6 +522,12 @@ MouseCursorID TextBoxBase::contextCursor(const XY<int>& p) const {
 // ---- layout and painting ------------------------------------------------------
 
 void TextBoxBase::invalidateLayout() { layout_.reset(); }
+
+std::size_t TextBoxBase::nextCaretStop(std::size_t index, int direction) const { return layout().nextCaretStop(index, direction); }
+
+bool TextBoxBase::isCaretStop(std::size_t index) const { return layout().isCaretStop(index); }
+
+std::size_t TextBoxBase::indexAtPoint(XY<int> globPoint) const { return layout().indexAt(toLayout(globPoint)); }
 
 const Glib::TextLayout& TextBoxBase::layout() const {
     if (!layout_) layout_ = std::make_unique<Glib::TextLayout>(displayText(), getFont(), wrapWidth());

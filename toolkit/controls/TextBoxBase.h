@@ -136,6 +136,12 @@ protected:
     // Paints over the text, under the selection: links, marks. `clip` is the
     // area inside the frame.
     virtual void decorateText(const BoxInt& /*clip*/) {}
+    // Where the caret may stand, and the index nearest a point of this glob. The
+    // layout of the whole text answers by default; a subclass that lays out its
+    // text in pieces answers from those.
+    virtual std::size_t nextCaretStop(std::size_t index, int direction) const;
+    virtual bool isCaretStop(std::size_t index) const;
+    virtual std::size_t indexAtPoint(XY<int> globPoint) const;
 
     // Takes the text as the user's final word: Escape goes back to it from now on.
     // A bound box passes it on to its data here.
@@ -169,7 +175,7 @@ protected:
     // Runs the callback of `event`; false when this box died meanwhile.
     bool fireCallback(eCallbackEvent event);
     // Forgets the layout after a change of text, font or size.
-    void invalidateLayout();
+    virtual void invalidateLayout();
 
 private:
     struct Snapshot {
