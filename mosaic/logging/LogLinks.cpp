@@ -25,7 +25,8 @@ bool startsWithIgnoringCase(std::wstring_view text, std::wstring_view prefix) {
 } // namespace
 
 bool LogLinks::opensInApplication(const LightweightString<wchar_t>& target) {
-    std::wstring_view extension = getExtension(target).view();
+    LightweightString<wchar_t> ext = getExtension(target);
+    std::wstring_view extension = ext.view();
     if (!extension.empty() && extension.front() == L'.') extension.remove_prefix(1);
     if (equalsIgnoringCase(extension, L"HTML") || equalsIgnoringCase(extension, L"EDL")) return true;
     std::wstring_view v = target.view();

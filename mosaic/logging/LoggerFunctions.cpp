@@ -15,6 +15,16 @@ namespace {
 
 constexpr std::size_t kFormatBufferBytes = 1024;
 
+// The length of `text` without a last UTF-8 character that the cut left unfinished.
+std::size_t wholeCharacters(const char* text, std::size_t length) {
+    std::size_t start = length, tail = 0;
+    while (start > 0 && tail < 3 && (static_cast<unsigned char>(text[start - 1]) & 0xC0) == 0x80) --start, ++tail;
+    if (start == 0) return length;
+    auto lead = static_cast<unsigned char>(text[start - 1]);
+    std::size_t need = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
+    return need > tail + 1 ? start - 1 : length;
+}
+
 void writeFormatted(Logger* logger, LoggerBase::eOutputType type, const char* format, va_list args) {
     if (!is_good_logger_ptr(logger) || !format) return;
     auto buffer = std::make_unique<char[]>(kFormatBufferBytes);
@@ -23,8 +33,7 @@ void writeFormatted(Logger* logger, LoggerBase::eOutputType type, const char* fo
     // A message longer than the buffer keeps the 1,023 bytes that fit, ending on a
     // whole character.
     std::size_t length = std::min<std::size_t>(static_cast<std::size_t>(n), kFormatBufferBytes - 1);
-    if (static_cast<std::size_t>(n) > length)
-        while (length > 0 && (static_cast<unsigned char>(buffer[length]) & 0xC0) == 0x80) --length;
+    if (static_cast<std::size_t>(n) > length) length = wholeCharacters(buffer.get(), length);
     logger->write(Zn::WStringFromAscii(buffer.get(), length), type);
 }
 

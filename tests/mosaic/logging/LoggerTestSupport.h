@@ -8,6 +8,9 @@
 #include "glob/UifStd.h"
 #include "platform/Clock.h"
 #include "platform/OS.h"
+#include "platform/Paths.h"
+#include "platform/ResourceStrings.h"
+#include "tasks/HyperLink.h"
 #include "tasks/TaskLog.h"
 #include "testing/TestKit.h"
 
