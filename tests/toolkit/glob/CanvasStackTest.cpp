@@ -1,3 +1,4 @@
+#include "draw/Canvas.h"
 #include "glob/CanvasStack.h"
 #include "glob/FileDrag.h"
 #include "glob/GlobManager.h"

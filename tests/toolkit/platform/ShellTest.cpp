@@ -45,7 +45,7 @@ TEST(Shell, OpenAndRevealGoThroughTheLauncherForFilesAndAddressesThatExist) {
 
     launches.seen.clear();
     EXPECT_TRUE(Zn::revealFilesInOS({w(a), w(b), w(tmp.str() + "/missing"), w(sub + "/c.txt")}));
-    EXPECT_EQ(launches.seen, (std::vector<std::string>{"xdg-open " + tmp.str(), "xdg-open " + sub})) << "each folder once";
+    EXPECT_EQ(launches.seen, (std::vector<std::string>{"xdg-open " + tmp.str() + "/", "xdg-open " + sub + "/"})) << "each folder once";
     EXPECT_FALSE(Zn::revealFilesInOS({}));
     EXPECT_FALSE(Zn::revealFilesInOS({w(tmp.str() + "/missing")}));
 }
