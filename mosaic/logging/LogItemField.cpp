@@ -43,8 +43,9 @@ int LogItemField::drawField(CellContext& ctx) {
         drawSection(ctx, text);
         return 1;
     }
+    // Indented by whole rows; the margin keeps the text where a section's text starts.
     BoxInt box = ctx.box;
-    box.x1 += static_cast<unsigned short>(row->indent * UifStd::instance().getRowHeight());
+    box.x1 += static_cast<unsigned short>(row->indent * UifStd::instance().getRowHeight()) + TableColumnDescription::textMargin();
     if (HTMLRenderer::isHTML(text)) {
         if (ctx.draw)
             HTMLRenderer::render(ctx.canvas, HTMLRenderer::parse(text, ctx.palette), box, rowHeight(ctx), HTMLRenderer::Alignment(0, 1));
