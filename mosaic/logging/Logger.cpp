@@ -170,8 +170,10 @@ unsigned short Logger::getInitialHeight(unsigned short numRows, unsigned int fla
 // scrolling the blank rows are added half a screen at a time, and the table's
 // position moves only then, rather than on every row.
 void Logger::addSpaceFor(unsigned short n) {
+    // At least 256 rows at a time, and by half again as the log grows, so that a long
+    // log is not copied over and over.
     if (static_cast<unsigned short>(items_.capacity()) == static_cast<unsigned short>(items_.size()) && items_.size() < kMaxRows)
-        items_.reserve(std::min<std::size_t>(kMaxRows, items_.size() + std::max<std::size_t>(n, 256)));
+        items_.reserve(std::min<std::size_t>(kMaxRows, std::max(items_.size() + std::max<std::size_t>(n, 256), items_.size() * 3 / 2)));
     const Palette& p = getPalette();
     LoggedItem blank(LightweightString<wchar_t>(), p.text(kTextNormal), p.window(kShadeNormal), Glib::FontDesc(), otNormal);
     std::size_t wanted = std::min<std::size_t>(kMaxRows, std::size_t(rowCount_) + n);

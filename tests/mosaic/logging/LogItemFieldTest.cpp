@@ -212,6 +212,11 @@ TEST_F(LoggerFixture, DraggingALinkFarEnoughHandsItsFilesToTheSystem) {
     ASSERT_EQ(dragged.size(), 1u);
     EXPECT_EQ(dragged[0], (std::vector<std::wstring>{path("a.mov").str(), path("b.mov").str()}));
     EXPECT_TRUE(launched.empty()) << "the release that ends a drag is no click";
+    put(l, L"{\"type\":\"LogTestPanel\"}", LB::otHyperLink);
+    dragFrom(3, 4 * gap);
+    ASSERT_EQ(dragged.size(), 2u) << "an internal link without '|' is offered as a file all the same";
+    EXPECT_EQ(dragged[1], std::vector<std::wstring>{L"{\"type\":\"LogTestPanel\"}"});
+    Made::globs().clear();
     Glib::setFileDragHandler({});
     EXPECT_FALSE(Glib::dragFilesToOS({L"/media/a.mov"})) << "headless, with no handler, nothing is dragged";
 }

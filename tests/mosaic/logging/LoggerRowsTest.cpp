@@ -155,12 +155,15 @@ TEST_F(LoggerFixture, ProgressShowsTimeLeftAndTimeTakenFromTheInjectedClock) {
     Clock::advanceTestTime(3'600'000);
     l->progress(0.5);
     EXPECT_TRUE(g->getMessage().empty()) << "after the end the panel is idle again";
-    EXPECT_EQ(SystemWatchdog::heartbeatCount(), beats + 8);
+    Clock::advanceTestTime(3'700'000);
+    l->progress(0.5);
+    EXPECT_EQ(g->getMessage(), timeText(301, L"01:01:40")) << "hours, minutes and seconds";
+    EXPECT_EQ(SystemWatchdog::heartbeatCount(), beats + 9);
 
     Logger* plain = make();
     EXPECT_EQ(plain->gauge(), nullptr);
     plain->progress(0.5);
-    EXPECT_EQ(SystemWatchdog::heartbeatCount(), beats + 9) << "the heartbeat comes even without a gauge";
+    EXPECT_EQ(SystemWatchdog::heartbeatCount(), beats + 10) << "the heartbeat comes even without a gauge";
 }
 
 TEST_F(LoggerFixture, ProgressReportedToTheLogReachesTheGaugeOnTheUIThread) {
@@ -178,4 +181,18 @@ TEST_F(LoggerFixture, ProgressReportedToTheLogReachesTheGaugeOnTheUIThread) {
     l->handleProgressUpdate(ProgressSnapshot(1.0f, L"done"));
     TestKit::pump();
     EXPECT_EQ(l->gauge()->getMessage(), timeText(300, L"00:00:04"));
+}
+
+TEST_F(LoggerFixture, APanelHoldsAtMost65535RowsAndDropsTheRest) {
+    Zn::Ptr<iTaskLog> log(new TaskLog);
+    for (int i = 0; i < 65'540; ++i) log->write(LightweightString<wchar_t>(std::to_wstring(i)), LB::otNormal);
+    Logger* l = make(0, log);
+    EXPECT_EQ(l->rowCount(), 65'535);
+    EXPECT_EQ(l->getSize(), 65'535u);
+    EXPECT_EQ(l->rows()[65'534].text, L"65534");
+    put(l, L"one more\nand another", LB::otStatus);
+    EXPECT_EQ(l->rowCount(), 65'535) << "later rows are dropped";
+    EXPECT_EQ(l->rows()[65'534].text, L"65534");
+    l->table()->revealRow(65'534, false);
+    TestKit::pump();
 }
