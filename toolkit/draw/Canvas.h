@@ -6,6 +6,10 @@
 #include <cstdint>
 #include <vector>
 
+namespace Glib {
+struct FontDesc;
+}
+
 typedef struct _cairo cairo_t;
 typedef struct _cairo_surface cairo_surface_t;
 
@@ -26,6 +30,10 @@ public:
     int height() const { return height_; }
     // Makes a new, cleared image of the given size; sizes below 1 become 1.
     void resize(int width, int height);
+
+    // The font that text in `desc` is painted in: the description with the
+    // defaults filled in, so that measures made with it match what is painted.
+    static Glib::FontDesc createFont(const Glib::FontDesc& desc);
 
     cairo_t* context() const { return cr_; }
     cairo_surface_t* surface() const { return surface_; }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cwctype>
 #include <filesystem>
 #include <spawn.h>
 #include <sys/wait.h>
@@ -29,6 +30,17 @@ bool spawnDetached(const char* program, const LightweightString<char>& arg) {
     // Reaped by a thread of its own so that no zombie is left and the caller never waits.
     std::thread([pid] { waitpid(pid, nullptr, 0); }).detach();
     return true;
+}
+
+// An address with a scheme ("https://...", "mailto:...") or a bare "www." one.
+bool isWebAddress(const LightweightString<wchar_t>& text) {
+    std::wstring_view v = text.view();
+    if (v.size() > 4 && (v.substr(0, 4) == L"www." || v.substr(0, 4) == L"WWW.")) return true;
+    std::size_t colon = v.find(L':');
+    if (colon == std::wstring_view::npos || colon < 2) return false; // "C:" is a drive, not a scheme
+    for (std::size_t i = 0; i < colon; ++i)
+        if (!std::iswalnum(v[i]) && v[i] != L'+' && v[i] != L'-' && v[i] != L'.') return false;
+    return colon + 1 < v.size();
 }
 
 } // namespace
@@ -102,14 +114,34 @@ bool OSServices::makeFolder(const LightweightString<wchar_t>& path) const {
     return fs::is_directory(toUTF8(path).c_str(), ec);
 }
 
+void OSServices::setLauncher(Launcher launcher) { launcher_ = std::move(launcher); }
+
+bool OSServices::launch(const char* program, const LightweightString<wchar_t>& arg) const {
+    if (launcher_) return launcher_(program, {toUTF8(arg)});
+    return spawnDetached(program, toUTF8(arg));
+}
+
 bool OSServices::openWithDefaultApplication(const LightweightString<wchar_t>& path) const {
-    return fileExists(path) && spawnDetached("xdg-open", toUTF8(path));
+    return (isWebAddress(path) || fileExists(path)) && launch("xdg-open", path);
 }
 
 bool OSServices::revealInFileManager(const LightweightString<wchar_t>& path) const {
     if (!fileExists(path)) return false;
     LightweightString<wchar_t> folder = getPath(path);
-    return spawnDetached("xdg-open", toUTF8(folder.empty() ? LightweightString<wchar_t>(L".") : folder));
+    return launch("xdg-open", folder.empty() ? LightweightString<wchar_t>(L".") : folder);
+}
+
+bool OSServices::revealInFileManager(const std::vector<LightweightString<wchar_t>>& paths) const {
+    std::vector<LightweightString<wchar_t>> folders;
+    bool shown = false;
+    for (const auto& path : paths) {
+        if (!fileExists(path)) continue;
+        LightweightString<wchar_t> folder = getPath(path);
+        if (std::find(folders.begin(), folders.end(), folder) != folders.end()) continue;
+        folders.push_back(folder);
+        shown = revealInFileManager(path) || shown;
+    }
+    return shown;
 }
 
 void OSServices::setClipboardText(const LightweightString<wchar_t>& text) {

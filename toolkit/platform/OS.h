@@ -36,10 +36,20 @@ public:
     // Makes the folder and any missing parents; true when it exists afterwards.
     bool makeFolder(const LightweightString<wchar_t>& path) const;
 
-    // Opens a file with the desktop's default application, or shows it in the file
-    // manager. False when the helper could not be started.
+    // Starts a helper program with arguments, detached; false when it could not be
+    // started. Tests install one that records instead of launching.
+    using Launcher = std::function<bool(const LightweightString<char>& program, const std::vector<LightweightString<char>>& args)>;
+    // An empty launcher puts back the one that really starts programs.
+    void setLauncher(Launcher launcher);
+
+    // Opens a file, or a web address (with a scheme, or starting "www."), with the
+    // desktop's default application, or shows a file in the file manager. False
+    // when the file does not exist or the helper could not be started.
     bool openWithDefaultApplication(const LightweightString<wchar_t>& path) const;
     bool revealInFileManager(const LightweightString<wchar_t>& path) const;
+    // Shows each folder that holds one of the files once, in order of first mention;
+    // files that do not exist are passed over. True when at least one was shown.
+    bool revealInFileManager(const std::vector<LightweightString<wchar_t>>& paths) const;
 
     // The clipboard: in this process unless a window backend installs the system's.
     void setClipboardText(const LightweightString<wchar_t>& text);
@@ -47,6 +57,9 @@ public:
     void installClipboard(std::function<void(const LightweightString<wchar_t>&)> set, std::function<LightweightString<wchar_t>()> get);
 
 private:
+    bool launch(const char* program, const LightweightString<wchar_t>& arg) const;
+
+    Launcher launcher_;
     LightweightString<wchar_t> clipboard_;
     std::function<void(const LightweightString<wchar_t>&)> setClip_;
     std::function<LightweightString<wchar_t>()> getClip_;

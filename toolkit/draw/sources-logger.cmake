@@ -1,0 +1,3 @@
+list(APPEND GLOBKIT_SOURCES
+  draw/TextStyle.cpp
+)

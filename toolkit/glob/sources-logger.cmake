@@ -1,0 +1,4 @@
+list(APPEND GLOBKIT_SOURCES
+  glob/CanvasStack.cpp
+  glob/FileDrag.cpp
+)
