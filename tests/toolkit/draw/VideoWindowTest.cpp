@@ -49,7 +49,7 @@ TEST(VideoWindows, AFramePaintsOnlyInsideTheWindowAndComesBackAfterBeingPaintedO
     EXPECT_EQ(canvas.pixel(31, 26), 0u) << "the spill past the window is cut off";
     EXPECT_TRUE(window.hasFrame());
 
-    canvas.resize(40, 30);
+    canvas.resize(41, 30); // a new, cleared picture
     ASSERT_EQ(canvas.pixel(11, 6), 0u);
     EXPECT_TRUE(window.repaintLastFrame());
     EXPECT_EQ(canvas.pixel(11, 6), 0xFFFF0000u) << "the kept frame is painted again";
