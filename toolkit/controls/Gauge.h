@@ -18,6 +18,7 @@ public:
     const char* idstring() const override { return "Gauge"; }
 
     void setCols(const Colour& bar, const Colour& background);
+    const Colour& barColour() const { return bar_; }
     // The fraction done, held to 0..1; NaN counts as nothing done.
     void setMeasure(double fraction);
     double getMeasure() const { return measure_; }

@@ -1,0 +1,4 @@
+list(APPEND GLOBKIT_SOURCES
+  draw/iRootVideoWindow.cpp
+  draw/VideoWindow.cpp
+)

@@ -1,0 +1,28 @@
+#include "SuspendRefreshOffToggle.h"
+
+#include "EventHandler.h"
+#include "Glob.h"
+#include "GlobManager.h"
+#include "draw/Canvas.h"
+
+SuspendRefreshOffToggle::SuspendRefreshOffToggle(int mode) {
+    if (mode != 1) return;
+    for (Glob* root : GlobManager::instance().roots()) {
+        Canvas* c = root->canvas();
+        if (!c || c->isRefreshOn()) continue;
+        int depth = 0;
+        while (!c->isRefreshOn()) {
+            c->refreshOn();
+            ++depth;
+        }
+        suspended_.push_back({root, root->stamp(), depth});
+    }
+    if (!suspended_.empty()) GlobManager::instance().screenChanged();
+}
+
+SuspendRefreshOffToggle::~SuspendRefreshOffToggle() {
+    for (const Suspended& s : suspended_) {
+        if (!EventHandler::valid(s.glob, s.stamp) || !s.glob->canvas()) continue;
+        for (int i = 0; i < s.depth; ++i) s.glob->canvas()->refreshOff();
+    }
+}

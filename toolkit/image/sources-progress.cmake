@@ -1,0 +1,4 @@
+list(APPEND GLOBKIT_SOURCES
+  image/AspectRatio.cpp
+  image/GPUImage.cpp
+)
