@@ -9,7 +9,7 @@
 
 namespace {
 
-const char* kExportDescription = R"({"params": [
+const char* kExportDescription = R"json({"params": [
   {"type": "heading", "legend": "Export"},
   {"type": "text", "name": "file", "legend": "File name", "value": "reel-03", "hint": "a name for the file"},
   {"type": "int", "name": "format", "legend": "Format", "values": {"Master": 0, "Web": 1, "Proxy": 2}, "choice": "1"},
@@ -21,7 +21,7 @@ const char* kExportDescription = R"({"params": [
   {"type": "bool", "name": "burn", "legend": "Burn in the timecode", "default": true},
   {"type": "float", "name": "size", "legend": "Timecode size", "min": 0.5, "max": 3, "default": 1, "active if": "burn=true"},
   {"type": "label", "name": "note", "legend": "Proxies are written beside the <b>media</b>, masters to the export folder."}
-]})";
+]})json";
 
 void buildParamsScene() {
     HostPanel::InitArgs example(400, 300);

@@ -13,5 +13,6 @@ list(APPEND MOSAIC_SOURCES
   params/UIBuilderParams.cpp
   params/UIBuilderExample.cpp
   params/HostPanel.cpp
+  params/UIBuilderTestPanel.cpp
   params/VisibilityConstraint.cpp
 )

@@ -8,4 +8,5 @@ list(APPEND MOSAIC_TEST_SOURCES
   mosaic/params/UIBuilderParamsTest.cpp
   mosaic/params/UIBuilderTest.cpp
   mosaic/params/UIBuilderJSONTest.cpp
+  mosaic/params/UIBuilderTestPanelTest.cpp
 )
