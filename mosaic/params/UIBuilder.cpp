@@ -10,6 +10,7 @@
 #include "controls/VerticalScrollingBase.h"
 #include "core/MethodCallback.h"
 #include "core/Utf8.h"
+#include "glob/GlobManager.h"
 #include "glob/UifStd.h"
 #include "platform/Configuration.h"
 
@@ -66,8 +67,15 @@ UIBuilder::UIBuilder(const ParamList& params, StandardPanel* panel) : panel_(pan
         enforceConstraints();
         for (const auto& condition : postConditions_) condition->evaluate(params_);
     }
+    endBuild();
+}
+
+// Rows are not painted one by one as they are made: what they asked for is dropped,
+// and a panel already on the screen is painted once, whole.
+void UIBuilder::endBuild() {
     Drawable::clearPendingRedraws();
     Drawable::enableRedraws();
+    if (panel_ && GlobManager::instance().isRealized(getRootParent(panel_))) panel_->redraw();
 }
 
 // Dependencies are read from the caller's parameters; they act on the clones.

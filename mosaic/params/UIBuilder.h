@@ -132,6 +132,7 @@ private:
     void wireElements(const ElementPtr& list);
     void foldAlternatives(const ElementPtr& list);
     void enforceConstraints();
+    void endBuild();
 
     StandardPanel* panel_ = nullptr;
     VerticalScrollingBase* scroller_ = nullptr;

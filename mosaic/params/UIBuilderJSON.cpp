@@ -72,7 +72,7 @@ UIBuilder::UIBuilder(const ElementPtr& root, StandardPanel* panel) : panel_(pane
     wireElements(list);
     foldAlternatives(list);
     enforceConstraints();
-    Drawable::enableRedraws();
+    endBuild();
 }
 
 Glob* UIBuilder::makeRowForElement(const ElementPtr& element, const WidgetPosition& position, const WidgetSurround& surround) {

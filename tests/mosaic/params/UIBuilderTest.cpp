@@ -315,9 +315,6 @@ TEST_F(UIBuilderList, PaintedLegendsLineUpInOneColumnAndTheSliderAndBoxSitInThei
     params.push_back(make<TextParam>(WString(L"clip"), "name", L"Name", L""));
     params.push_back(make<BoolParam>(L"Loop", "loop", L"", true));
     auto set = build(params);
-    // Building drops the redraws it asked for; a panel built after it was shown is repainted by its owner.
-    panel->redraw();
-    TestKit::pump();
     UIBuilder probe(panel, 0);
     probe.calcMaxLegendWidth(params);
     const int L = probe.getLegendWidth();
