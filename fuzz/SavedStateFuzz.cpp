@@ -2,7 +2,7 @@
 // small panel's parameters, saves them again, and checks that the saved text reads
 // back to the same store.
 #include "params/MaxValueConstraint.h"
-#include "params/UIBuilder.h"
+#include "params/UIBuilderParams.h"
 #include "platform/ConfigbFile.h"
 
 #include <cstddef>
