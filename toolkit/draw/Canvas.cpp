@@ -1,11 +1,17 @@
 #include "Canvas.h"
 
+#include "StateSaver.h"
+
 #include <algorithm>
 #include <cairo.h>
 
 Canvas::Canvas(int width, int height) : width_(std::max(1, width)), height_(std::max(1, height)) { create(); }
 
-Canvas::~Canvas() { destroy(); }
+// A canvas that dies while current would leave drawing aimed at freed memory.
+Canvas::~Canvas() {
+    if (Glib::currentCanvas() == this) Glib::setCurrentCanvas(nullptr);
+    destroy();
+}
 
 void Canvas::create() {
     surface_ = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width_, height_);

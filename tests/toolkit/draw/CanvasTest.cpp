@@ -1,6 +1,7 @@
 #include "draw/Canvas.h"
 #include "draw/CanvasRenderer.h"
 #include "draw/Screen.h"
+#include "draw/StateSaver.h"
 #include "testing/TestKit.h"
 
 #include <gtest/gtest.h>
@@ -109,4 +110,15 @@ TEST(Screen, CompositesLayersInOrderAndWritesPNG) {
     EXPECT_FALSE(s.writePNG((dir / "no-such-folder" / "x.png").string().c_str()));
     EXPECT_FALSE(s.writePNG(""));
     std::filesystem::remove_all(dir);
+}
+
+TEST(Canvas, ACanvasThatDiesWhileCurrentIsCurrentNoLonger) {
+    auto* canvas = new Canvas(20, 20);
+    Glib::setCurrentCanvas(canvas);
+    delete canvas;
+    EXPECT_EQ(Glib::currentCanvas(), nullptr);
+    Glib::StateSaver saver; // saves nothing rather than touching the dead canvas
+    Canvas other(10, 10);
+    Glib::setCurrentCanvas(&other);
+    EXPECT_EQ(Glib::currentCanvas(), &other);
 }
