@@ -4,19 +4,9 @@
 #include "platform/getSystemLogDirectory.h"
 #include "tasks/HyperLink.h"
 
-#include <fstream>
-#include <sstream>
-
 using LB = LoggerBase;
 
 namespace {
-
-std::string slurp(const std::filesystem::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    std::stringstream s;
-    s << in.rdbuf();
-    return s.str();
-}
 
 // A log with a row of every kind, a kind past the last, indents, lines and mark-up.
 Zn::Ptr<iTaskLog> everyKind() {

@@ -16,8 +16,15 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <unistd.h>
+
+// The whole of a file, as bytes.
+inline std::string slurp(const std::filesystem::path& p) {
+    std::ifstream in(p, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+}
 
 // A realized logger per test, a scratch folder, and the launches that the shell
 // would have made, recorded instead.

@@ -5,19 +5,9 @@
 #include "platform/TextFile.h"
 #include "tasks/HyperLink.h"
 
-#include <fstream>
-#include <sstream>
-
 using LB = LoggerBase;
 
 namespace {
-
-std::string slurp(const std::filesystem::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    std::stringstream s;
-    s << in.rdbuf();
-    return s.str();
-}
 
 // Points HOME, the user's folder, at a scratch folder for one test.
 class HomeAt {
