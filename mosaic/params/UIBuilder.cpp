@@ -176,9 +176,8 @@ void UIBuilder::calcMaxLegendWidth(const ElementPtr& list) {
 }
 
 Zn::Ptr<iParam> UIBuilder::findParam(const LightweightString<char>& id) const {
-    for (const auto& param : params_)
-        if (param && param->getID() == id) return param;
-    return nullptr;
+    auto it = paramsById_.find(id);
+    return it == paramsById_.end() ? nullptr : it->second;
 }
 
 Glob* UIBuilder::widgetFor(const LightweightString<char>& id) const {
@@ -189,6 +188,7 @@ Glob* UIBuilder::widgetFor(const LightweightString<char>& id) const {
 void UIBuilder::recordRow(const Zn::Ptr<iParam>& param, Glob* row) {
     if (!param) return;
     params_.push_back(param);
+    paramsById_.emplace(param->getID(), param);
     widgets_.emplace(param->getID(), row);
 }
 

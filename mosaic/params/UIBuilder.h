@@ -140,5 +140,7 @@ private:
     unsigned short width_ = 0;
     unsigned short legendWidth_ = 0;
     WidgetMap widgets_;
+    // The first parameter of each id, for wiring without a search per bound.
+    std::map<LightweightString<char>, Zn::Ptr<GenericParam::iParam>> paramsById_;
     std::vector<Zn::Ptr<iPostCondition>> postConditions_;
 };

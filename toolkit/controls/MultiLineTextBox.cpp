@@ -1,5 +1,7 @@
 #include "MultiLineTextBox.h"
 
+#include "draw/TextAdvanceCache.h"
+
 #include <algorithm>
 
 MultiLineTextBox::MultiLineTextBox(const InitArgs& args) : TextBoxBase(args, args.text.getString()) {}
@@ -30,11 +32,27 @@ void MultiLineTextBox::setScrollOffset(int pixels) {
 }
 
 void MultiLineTextBox::scrollToCaret() {
+    if (fitsWithoutScrolling()) {
+        scrollY_ = 0;
+        return;
+    }
     Glib::TextLayout::Rect c = layout().caret(getCursorPosition());
     int view = textArea().height();
     if (c.top < scrollY_) scrollY_ = c.top;
     if (c.top + c.height > scrollY_ + view) scrollY_ = c.top + c.height - view;
     scrollY_ = std::clamp(scrollY_, 0, maxScroll());
+}
+
+// Whether every line shows, told from cached advances where the text allows, so
+// that a box being filled need not shape its whole text. No line is taller than
+// the tallest face in it or the font's own ascent and descent, rounded up apart.
+bool MultiLineTextBox::fitsWithoutScrolling() const {
+    const LightweightString<wchar_t> text = displayText();
+    Glib::TextAdvanceCache& cache = Glib::TextAdvanceCache::forThisThread();
+    XY<int> line = cache.measurePixels(text.view(), getFont());
+    if (line.x < 0) return false;
+    int lines = cache.countLines(text.view(), wrapWidth(), getFont());
+    return lines > 0 && lines * std::max(line.y, Glib::fontHeight(getFont())) <= textArea().height();
 }
 
 bool MultiLineTextBox::moveCaretVertically(int lines, bool extend) {

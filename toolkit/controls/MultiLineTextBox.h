@@ -45,6 +45,7 @@ protected:
 private:
     int maxScroll() const;
     int linesPerPage() const;
+    bool fitsWithoutScrolling() const;
 
     int scrollY_ = 0;
     // The column that Up and Down keep to, and where the caret was when it was taken.

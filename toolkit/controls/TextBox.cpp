@@ -1,5 +1,6 @@
 #include "TextBox.h"
 
+#include "draw/TextAdvanceCache.h"
 #include "glob/UifStd.h"
 
 #include <algorithm>
@@ -16,7 +17,7 @@ void TextBox::setDisplaySuffix(const LightweightString<wchar_t>& suffix) {
 
 int TextBox::suffixWidth() const {
     if (suffix_.empty() || getString().empty()) return 0;
-    return Glib::TextLayout(suffix_, getFont()).width() + UifStd::instance().getRowGap();
+    return Glib::measureText(suffix_, getFont()).x + UifStd::instance().getRowGap();
 }
 
 void TextBox::setDataAdaptor(const Zn::Ptr<ValAdaptorBase<LightweightString<wchar_t>>>& adaptor) {
@@ -45,6 +46,13 @@ XY<int> TextBox::textOrigin() const {
 
 void TextBox::scrollToCaret() {
     BoxInt a = textArea();
+    // Text that fits needs no scrolling, and cached advances tell so without shaping
+    // it: a panel filling hundreds of boxes from their values lays none of them out.
+    XY<int> size = Glib::TextAdvanceCache::forThisThread().measurePixels(displayText().view(), getFont());
+    if (size.x >= 0 && size.x + suffixWidth() + caretWidth() <= a.width()) {
+        scrollX_ = 0;
+        return;
+    }
     const Glib::TextLayout& l = layout();
     int view = a.width() - caretWidth();
     int caretX = l.caret(getCursorPosition()).x;

@@ -1,6 +1,7 @@
 #include "FontDesc.h"
 
 #include "PangoSupport.h"
+#include "TextAdvanceCache.h"
 #include "core/Utf8.h"
 #include "glob/UifStd.h"
 #include "platform/Configuration.h"
@@ -58,6 +59,11 @@ PangoFontDescription* makePangoFont(const FontDesc& font) {
 }
 
 XY<int> measureText(const LightweightString<wchar_t>& text, const FontDesc& font) {
+    // Most legends and labels are plain Latin text, which the advance cache measures
+    // without shaping; it answers exactly what the layout below would.
+    if (XY<int> fast = TextAdvanceCache::forThisThread().measurePixels(text.view(), font); fast.x >= 0) {
+        return {fast.x, std::max(fast.y, fontHeight(font))};
+    }
     PangoLayout* layout = pango_layout_new(Glib::layoutContext());
     PangoFontDescription* d = makePangoFont(font);
     pango_layout_set_font_description(layout, d);

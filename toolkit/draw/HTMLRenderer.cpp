@@ -2,6 +2,7 @@
 
 #include "PangoSupport.h"
 #include "HTMLParser.h"
+#include "TextAdvanceCache.h"
 #include "WordWrappingTextRenderer.h"
 
 #include <algorithm>
@@ -51,6 +52,16 @@ Glib::WordWrappingTextRenderer layoutOf(const Paragraph& p, int width, int defau
     return Glib::WordWrappingTextRenderer(layout);
 }
 
+// A paragraph of one style counts its lines from cached advances when its text
+// allows: labels are mostly that, and a panel counts hundreds of them.
+long linesOf(const Paragraph& p, int width) {
+    if (p.runs.size() == 1) {
+        const Run& run = p.runs.front();
+        if (int n = Glib::TextAdvanceCache::forThisThread().countLines(run.text.view(), width, run.font); n > 0) return n;
+    }
+    return layoutOf(p, width, HTMLRenderer::kLeft).numLines();
+}
+
 // The y of the first row's top edge when the rows take `height` pixels in all.
 int firstRowTop(const BoxInt& box, long height, int vertical) {
     long spare = box.height() - height;
@@ -76,7 +87,7 @@ LightweightVector<HTMLRenderer::Paragraph> HTMLRenderer::parse(const Lightweight
 
 unsigned short HTMLRenderer::calcNumDisplayLines(const LightweightVector<Paragraph>& paragraphs, unsigned short width) {
     long lines = 0;
-    for (const Paragraph& p : paragraphs) lines += layoutOf(p, width, kLeft).numLines();
+    for (const Paragraph& p : paragraphs) lines += linesOf(p, width);
     return static_cast<unsigned short>(std::min(lines, 0xFFFFL));
 }
 

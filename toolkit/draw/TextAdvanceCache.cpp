@@ -50,6 +50,12 @@ std::size_t unitEnd(std::wstring_view p, std::size_t i) {
     return end;
 }
 
+// Text whose width is the sum of its characters' advances and its pairs' kerning.
+// Faces join "ffi" and "ffl" into one glyph, which no pair accounts for.
+bool isPairwise(std::wstring_view text) {
+    return std::all_of(text.begin(), text.end(), TextAdvanceCache::isSimple) && text.find(L"ff") == std::wstring_view::npos;
+}
+
 } // namespace
 
 class TextAdvanceCache::FontTable {
@@ -59,6 +65,7 @@ public:
         pango_layout_set_font_description(layout_, d);
         pango_font_description_free(d);
         advances_.fill(kUnknown);
+        heights_.fill(kUnknown);
     }
     ~FontTable() { g_object_unref(layout_); }
     FontTable(const FontTable&) = delete;
@@ -66,15 +73,24 @@ public:
 
     std::int32_t advance(wchar_t c) {
         std::int32_t& a = advances_[slot(c)];
-        if (a == kUnknown) a = measureRaw(std::wstring_view(&c, 1));
+        if (a == kUnknown) {
+            PangoRectangle logical = measureRaw(std::wstring_view(&c, 1));
+            a = logical.width;
+            heights_[slot(c)] = logical.height;
+        }
         return a;
+    }
+    // The line height of the face that draws `c`: a face that Pango falls back to may be taller.
+    std::int32_t height(wchar_t c) {
+        advance(c);
+        return heights_[slot(c)];
     }
     std::int32_t kerning(wchar_t a, wchar_t b) {
         if (pairs_.empty()) pairs_.assign(kSpan * kSpan, kUnknownPair);
         std::int16_t& k = pairs_[slot(a) * kSpan + slot(b)];
         if (k == kUnknownPair) {
             wchar_t both[2] = {a, b};
-            std::int32_t raw = measureRaw(std::wstring_view(both, 2)) - advance(a) - advance(b);
+            std::int32_t raw = measureRaw(std::wstring_view(both, 2)).width - advance(a) - advance(b);
             k = static_cast<std::int16_t>(std::clamp<std::int32_t>(raw, -32767, 32767));
         }
         return k;
@@ -92,16 +108,17 @@ public:
     FontDesc font;
 
 private:
-    std::int32_t measureRaw(std::wstring_view s) {
+    PangoRectangle measureRaw(std::wstring_view s) {
         LightweightString<char> utf8 = toUTF8(LightweightString<wchar_t>(s));
         pango_layout_set_text(layout_, utf8.c_str(), static_cast<int>(utf8.size()));
         PangoRectangle logical;
         pango_layout_get_extents(layout_, nullptr, &logical);
-        return logical.width;
+        return logical;
     }
 
     PangoLayout* layout_;
     std::array<std::int32_t, kSpan> advances_;
+    std::array<std::int32_t, kSpan> heights_;
     std::vector<std::int16_t> pairs_;
 };
 
@@ -129,8 +146,16 @@ TextAdvanceCache::FontTable& TextAdvanceCache::tableFor(const FontDesc& font) {
 }
 
 std::int64_t TextAdvanceCache::measure(std::wstring_view text, const FontDesc& font) {
-    if (!std::all_of(text.begin(), text.end(), isSimple)) return -1;
+    if (!isPairwise(text)) return -1;
     return tableFor(font).run(text);
+}
+
+XY<int> TextAdvanceCache::measurePixels(std::wstring_view text, const FontDesc& font) {
+    if (text.empty() || !isPairwise(text)) return {-1, -1};
+    FontTable& table = tableFor(font);
+    std::int32_t height = 0;
+    for (wchar_t c : text) height = std::max(height, table.height(c));
+    return {PANGO_PIXELS_CEIL(table.run(text)), PANGO_PIXELS_CEIL(height)};
 }
 
 int TextAdvanceCache::countLines(std::wstring_view text, int width, const FontDesc& font) {

@@ -24,8 +24,13 @@ public:
     // The number of lines Pango makes of `text` at `width` pixels (0 or less: no
     // wrapping), or 0 when this cache cannot be sure.
     int countLines(std::wstring_view text, int width, const FontDesc& font);
-    // The width in Pango units of one line of text, or -1 when it is not simple.
+    // The width in Pango units of one line of text, or -1 when it is not simple
+    // (or holds "ff", which faces may join with what follows into one glyph).
     std::int64_t measure(std::wstring_view text, const FontDesc& font);
+    // One line of text in pixels as Pango's logical extents give it (the width
+    // rounded up, the line height of the tallest face used), or {-1, -1} when the
+    // text is not simple, as for measure(). Empty text is left to Pango too.
+    XY<int> measurePixels(std::wstring_view text, const FontDesc& font);
 
     // Pango units in a pixel, for readers of measure().
     static constexpr int kUnitsPerPixel = 1024;

@@ -112,6 +112,27 @@ TEST_F(MultiLineTextBoxTest, ClicksAndDragsFindTheirLine) {
     EXPECT_EQ(box->getSelectedText(), L"pha\nbravo\ncha");
 }
 
+TEST_F(MultiLineTextBoxTest, TextSetFromOutsideScrollsToItsEndOnlyWhenItDoesNotFit) {
+    // Text that fits is told so from cached advances, text that does not is laid out;
+    // boxes a few pixels short of a line or over it must see the same boundary.
+    const int lineHeight = Glib::TextLayout(L"x", Glib::getDefaultFont()).height();
+    for (const wchar_t* text : {L"Notes on stage 12 of the export, kept for the editor.", L"office fluff and more office fluff here"}) {
+        for (int w = 60; w < 360; w += 13) {
+            for (int extra = -4; extra <= lineHeight; extra += 4) {
+                MultiLineTextBox::InitArgs args(UIString(), static_cast<unsigned short>(w),
+                                                static_cast<unsigned short>(MultiLineTextBox::calcHeightForLines(3) + extra));
+                auto* b = panel->createWidget<MultiLineTextBox>(args, Glob::BottomLeft(10, 100));
+                b->setString(text, kNoRedraw);
+                int view = b->height() - 2 * b->getMargin();
+                int needed = b->numDisplayLines() * lineHeight;
+                EXPECT_EQ(b->getScrollOffset(), std::max(0, needed - view)) << LightweightString<wchar_t>(text) << " at " << w << "+" << extra;
+                Glob* done = b;
+                panel->removeWidget(done, true);
+            }
+        }
+    }
+}
+
 TEST_F(MultiLineTextBoxTest, ALongTextScrollsToTheCaretAndWithTheWheel) {
     MultiLineTextBox* box = addBox(L"", 200, 3);
     set_kbd_focus(box);

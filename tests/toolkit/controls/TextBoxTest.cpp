@@ -366,6 +366,27 @@ TEST_F(TextBoxTest, ALongTextScrollsToKeepTheCaretInView) {
     EXPECT_TRUE(TestKit::pixelNear(narrow, narrow->getMargin(), narrow->height() / 2, TestKit::argb(p.text())));
 }
 
+TEST_F(TextBoxTest, TextSetFromOutsideScrollsOnlyWhenItDoesNotFit) {
+    // Text that fits is told so from cached advances, text that does not is laid out:
+    // across the boundary both must agree on one content width.
+    for (const wchar_t* text : {L"Render queue: 12 clips", L"Caf\u00e9 AVA To.", L"office fluff"}) {
+        int content = -1;
+        for (int w = 40; w < 260; w += 3) {
+            TextBox* b = addBox(w, L"", {10, 100});
+            b->setString(text, kNoRedraw);
+            if (b->getScrollOffset() > 0) {
+                if (content < 0) content = b->getScrollOffset() + w;
+                EXPECT_EQ(b->getScrollOffset() + w, content) << LightweightString<wchar_t>(text) << " at " << w;
+            } else {
+                EXPECT_TRUE(content < 0 || w >= content) << LightweightString<wchar_t>(text) << " fits at " << w;
+            }
+            Glob* done = b;
+            panel->removeWidget(done, true);
+        }
+        EXPECT_GT(content, 0) << "the narrow boxes scrolled";
+    }
+}
+
 TEST_F(TextBoxTest, ABoundBoxCommitsWhatIsTypedAndShowsServerChangesWithoutCallingBack) {
     ValServer<int> server(5);
     struct Counter : ValClient<int> {
