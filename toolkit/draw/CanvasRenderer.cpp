@@ -1,11 +1,15 @@
 #include "CanvasRenderer.h"
 
 #include "PangoSupport.h"
+#include "ShapeMaskCache.h"
+#include "ShapedTextCache.h"
 #include "core/Utf8.h"
 #include "image/iHostImage.h"
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
+#include <string>
 
 
 void CanvasRenderer::setColour(const Colour& c) const {
@@ -20,35 +24,99 @@ void CanvasRenderer::noteModified(double x1, double y1, double x2, double y2) co
     canvas_->addModifiedArea(b);
 }
 
+namespace {
+
+// A rectangle inset by `inset` on every side, its corners rounded by `radius`
+// about the same centres whatever the inset.
+void roundedRectPath(cairo_t* cr, double x, double y, double w, double h, double inset, double radius) {
+    double x0 = x + inset, y0 = y + inset, x1 = x + w - inset, y1 = y + h - inset;
+    if (x1 <= x0 || y1 <= y0) return;
+    if (radius <= 0.0) {
+        cairo_rectangle(cr, x0, y0, x1 - x0, y1 - y0);
+        return;
+    }
+    cairo_new_sub_path(cr);
+    cairo_arc(cr, x1 - radius, y0 + radius, radius, -M_PI / 2, 0);
+    cairo_arc(cr, x1 - radius, y1 - radius, radius, 0, M_PI / 2);
+    cairo_arc(cr, x0 + radius, y1 - radius, radius, M_PI / 2, M_PI);
+    cairo_arc(cr, x0 + radius, y0 + radius, radius, M_PI, 3 * M_PI / 2);
+    cairo_close_path(cr);
+}
+
+// What fixes a cached shape's pixels: its kind and its sizes, bit for bit.
+std::string shapeKey(char kind, std::initializer_list<double> sizes) {
+    std::string key(1 + sizes.size() * sizeof(double), kind);
+    std::memcpy(key.data() + 1, sizes.begin(), sizes.size() * sizeof(double));
+    return key;
+}
+
+// Paints what `paint` paints, in the current source, with its origin at the
+// device pixel (x, y): through a cached mask where the shape is small enough to
+// keep, which spares cairo rasterizing the same curves and slants again.
+void paintShape(cairo_t* cr, int x, int y, int w, int h, const std::string& key, const Glib::ShapeMaskCache::Painter& paint) {
+    if (cairo_surface_t* mask = Glib::ShapeMaskCache::forThisThread().get(key, w, h, paint)) {
+        cairo_mask_surface(cr, mask, x, y);
+        return;
+    }
+    cairo_save(cr);
+    cairo_translate(cr, x, y);
+    paint(cr);
+    cairo_restore(cr);
+}
+
+// Outlines are filled as the ring between their outer and inner edges: the pixels
+// a stroke of the middle line covers, without the stroker's cost.
+void fillRing(cairo_t* cr) {
+    cairo_set_fill_rule(cr, CAIRO_FILL_RULE_EVEN_ODD);
+    cairo_fill(cr);
+}
+
+void ellipsePath(cairo_t* cr, double cx, double cy, double rx, double ry) {
+    cairo_save(cr);
+    cairo_translate(cr, cx, cy);
+    cairo_scale(cr, rx, ry);
+    cairo_new_sub_path(cr);
+    cairo_arc(cr, 0, 0, 1, 0, 2 * M_PI);
+    cairo_restore(cr);
+}
+
+} // namespace
+
 void CanvasRenderer::render(const Glib::RectDescription& r) const {
     if (!canvas_ || r.box.isEmpty()) return;
     cairo_t* cr = canvas_->context();
     XY<int> o = canvas_->origin();
-    double x = o.x + r.box.x1, y = canvas_->cairoY(o.y + r.box.y2), w = r.box.width(), h = r.box.height();
-    auto path = [&](double inset) {
-        double rad = std::min({r.cornerRadius, w / 2, h / 2});
-        double x0 = x + inset, y0 = y + inset, x1 = x + w - inset, y1 = y + h - inset;
-        if (rad <= 0.0) {
-            cairo_rectangle(cr, x0, y0, x1 - x0, y1 - y0);
-            return;
-        }
-        cairo_new_sub_path(cr);
-        cairo_arc(cr, x1 - rad, y0 + rad, rad, -M_PI / 2, 0);
-        cairo_arc(cr, x1 - rad, y1 - rad, rad, 0, M_PI / 2);
-        cairo_arc(cr, x0 + rad, y1 - rad, rad, M_PI / 2, M_PI);
-        cairo_arc(cr, x0 + rad, y0 + rad, rad, M_PI, 3 * M_PI / 2);
-        cairo_close_path(cr);
-    };
+    const int x = o.x + r.box.x1, y = static_cast<int>(canvas_->cairoY(o.y + r.box.y2)), w = r.box.width(), h = r.box.height();
+    const double rad = std::max(0.0, std::min({r.cornerRadius, w / 2.0, h / 2.0}));
     if (r.filled) {
         setColour(r.fill);
-        path(0.0);
-        cairo_fill(cr);
+        if (rad > 0.0) {
+            paintShape(cr, x, y, w, h, shapeKey('r', {double(w), double(h), rad}), [=](cairo_t* c) {
+                roundedRectPath(c, 0, 0, w, h, 0.0, rad);
+                cairo_fill(c);
+            });
+        } else {
+            cairo_rectangle(cr, x, y, w, h);
+            cairo_fill(cr);
+        }
     }
     if (r.outlineWidth > 0.0) {
+        const double lw = r.outlineWidth, half = lw / 2;
         setColour(r.outline);
-        cairo_set_line_width(cr, r.outlineWidth);
-        path(r.outlineWidth / 2);
-        cairo_stroke(cr);
+        auto ring = [=](cairo_t* c) {
+            roundedRectPath(c, 0, 0, w, h, 0.0, rad > 0.0 ? rad + half : 0.0);
+            roundedRectPath(c, 0, 0, w, h, lw, std::max(0.0, rad - half));
+            fillRing(c);
+        };
+        // Square corners are boxes to cairo, as quick to fill as to mask.
+        if (rad > 0.0) {
+            paintShape(cr, x, y, w, h, shapeKey('o', {double(w), double(h), rad, lw}), ring);
+        } else {
+            cairo_save(cr);
+            cairo_translate(cr, x, y);
+            ring(cr);
+            cairo_restore(cr);
+        }
     }
     noteModified(r.box.x1, r.box.y1, r.box.x2, r.box.y2);
 }
@@ -61,12 +129,26 @@ void CanvasRenderer::render(const Glib::LineDescription& l) const {
     double ax = o.x + l.from.x + 0.5, ay = canvas_->cairoY(o.y + l.from.y + 0.5);
     double bx = o.x + l.to.x + 0.5, by = canvas_->cairoY(o.y + l.to.y + 0.5);
     setColour(l.colour);
-    cairo_set_line_width(cr, l.width);
-    // Square caps make a horizontal or vertical line reach both end pixels fully.
-    cairo_set_line_cap(cr, CAIRO_LINE_CAP_SQUARE);
-    cairo_move_to(cr, ax, ay);
-    cairo_line_to(cr, bx, by);
-    cairo_stroke(cr);
+    const double lw = l.width;
+    auto stroke = [lw](cairo_t* c, double x1, double y1, double x2, double y2) {
+        cairo_set_line_width(c, lw);
+        // Square caps make a horizontal or vertical line reach both end pixels fully.
+        cairo_set_line_cap(c, CAIRO_LINE_CAP_SQUARE);
+        cairo_move_to(c, x1, y1);
+        cairo_line_to(c, x2, y2);
+        cairo_stroke(c);
+    };
+    if (ax == bx || ay == by) {
+        stroke(cr, ax, ay, bx, by); // boxes to cairo: quick
+    } else {
+        // A slanted line's caps reach past its ends by up to half its width times root two.
+        const double reach = lw * 0.75 + 1;
+        const int x0 = static_cast<int>(std::floor(std::min(ax, bx) - reach)), y0 = static_cast<int>(std::floor(std::min(ay, by) - reach));
+        const int w = static_cast<int>(std::ceil(std::max(ax, bx) + reach)) - x0, h = static_cast<int>(std::ceil(std::max(ay, by) + reach)) - y0;
+        const double x1 = ax - x0, y1 = ay - y0, x2 = bx - x0, y2 = by - y0;
+        paintShape(cr, x0, y0, w, h, shapeKey('l', {x1, y1, x2, y2, lw, double(w), double(h)}),
+                   [=](cairo_t* c) { stroke(c, x1, y1, x2, y2); });
+    }
     double half = l.width / 2 + 1;
     noteModified(std::min(l.from.x, l.to.x) - half, std::min(l.from.y, l.to.y) - half, std::max(l.from.x, l.to.x) + half + 1,
                  std::max(l.from.y, l.to.y) + half + 1);
@@ -76,36 +158,27 @@ void CanvasRenderer::render(const Glib::EllipseDescription& e) const {
     if (!canvas_ || e.radii.x <= 0 || e.radii.y <= 0) return;
     cairo_t* cr = canvas_->context();
     XY<int> o = canvas_->origin();
-    cairo_save(cr);
-    cairo_translate(cr, o.x + e.centre.x, canvas_->cairoY(o.y + e.centre.y));
-    cairo_scale(cr, e.radii.x, e.radii.y);
-    cairo_arc(cr, 0, 0, 1, 0, 2 * M_PI);
-    cairo_restore(cr);
+    const double cx = o.x + e.centre.x, cy = canvas_->cairoY(o.y + e.centre.y);
+    const double half = e.filled ? 0.0 : e.lineWidth / 2, rx = e.radii.x, ry = e.radii.y;
+    // The pixels the shape can touch, and its centre inside them.
+    const int x0 = static_cast<int>(std::floor(cx - rx - half)) - 1, y0 = static_cast<int>(std::floor(cy - ry - half)) - 1;
+    const int w = static_cast<int>(std::ceil(cx + rx + half)) + 1 - x0, h = static_cast<int>(std::ceil(cy + ry + half)) + 1 - y0;
+    const double mx = cx - x0, my = cy - y0;
     setColour(e.colour);
-    if (e.filled) {
-        cairo_fill(cr);
-    } else {
-        cairo_set_line_width(cr, e.lineWidth);
-        cairo_stroke(cr);
-    }
-    noteModified(e.centre.x - e.radii.x - 1, e.centre.y - e.radii.y - 1, e.centre.x + e.radii.x + 1, e.centre.y + e.radii.y + 1);
+    paintShape(cr, x0, y0, w, h, shapeKey('e', {mx, my, rx, ry, e.filled ? -1.0 : e.lineWidth, double(w), double(h)}), [=](cairo_t* c) {
+        ellipsePath(c, mx, my, rx + half, ry + half);
+        if (half > 0.0 && rx > half && ry > half) ellipsePath(c, mx, my, rx - half, ry - half);
+        fillRing(c);
+    });
+    noteModified(e.centre.x - rx - half - 1, e.centre.y - ry - half - 1, e.centre.x + rx + half + 1, e.centre.y + ry + half + 1);
 }
 
 void CanvasRenderer::render(const Glib::TextDescription& t) const {
     if (!canvas_ || t.text.empty() || t.box.isEmpty()) return;
     cairo_t* cr = canvas_->context();
     XY<int> o = canvas_->origin();
-    PangoLayout* layout = pango_cairo_create_layout(cr);
-    PangoFontDescription* d = Glib::makePangoFont(t.font);
-    pango_layout_set_font_description(layout, d);
-    LightweightString<char> utf8 = toUTF8(t.text);
-    pango_layout_set_text(layout, utf8.c_str(), static_cast<int>(utf8.size()));
-    if (t.ellipsize) {
-        pango_layout_set_width(layout, t.box.width() * PANGO_SCALE);
-        pango_layout_set_ellipsize(layout, PANGO_ELLIPSIZE_END);
-    }
-    PangoRectangle logical;
-    pango_layout_get_pixel_extents(layout, nullptr, &logical);
+    const Glib::ShapedTextCache::Shaped& shaped = Glib::ShapedTextCache::forThisThread().get(t.text, t.font, t.ellipsize ? t.box.width() : 0);
+    const PangoRectangle& logical = shaped.logical;
     double x = o.x + t.box.x1;
     if (t.align == Glib::kAlignCentreH) x += (t.box.width() - logical.width) / 2.0;
     if (t.align == Glib::kAlignRight) x += t.box.width() - logical.width;
@@ -115,10 +188,8 @@ void CanvasRenderer::render(const Glib::TextDescription& t) const {
     cairo_clip(cr);
     setColour(t.colour);
     cairo_move_to(cr, std::round(x), top);
-    pango_cairo_show_layout(cr, layout);
+    pango_cairo_show_layout(cr, shaped.layout.get());
     cairo_restore(cr);
-    pango_font_description_free(d);
-    g_object_unref(layout);
     noteModified(t.box.x1, t.box.y1, t.box.x2, t.box.y2);
 }
 

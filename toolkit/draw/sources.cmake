@@ -4,6 +4,8 @@ list(APPEND GLOBKIT_SOURCES
   draw/FontDesc.cpp
   draw/Screen.cpp
   draw/StateSaver.cpp
+  draw/ShapeMaskCache.cpp
+  draw/ShapedTextCache.cpp
   draw/TextAdvanceCache.cpp
   draw/TextLayout.cpp
   draw/WordWrappingTextRenderer.cpp

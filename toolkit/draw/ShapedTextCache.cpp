@@ -1,0 +1,42 @@
+#include "ShapedTextCache.h"
+
+#include "PangoSupport.h"
+#include "core/Utf8.h"
+
+#include <algorithm>
+#include <string>
+
+namespace Glib {
+
+ShapedTextCache& ShapedTextCache::forThisThread() {
+    thread_local ShapedTextCache cache;
+    return cache;
+}
+
+ShapedTextCache::Shaped ShapedTextCache::shape(const LightweightString<char>& utf8, const FontDesc& font, int ellipsizeWidth) {
+    Shaped s;
+    s.layout.reset(pango_layout_new(layoutContext()));
+    PangoFontDescription* d = makePangoFont(font);
+    pango_layout_set_font_description(s.layout.get(), d);
+    pango_font_description_free(d);
+    pango_layout_set_text(s.layout.get(), utf8.c_str(), static_cast<int>(utf8.size()));
+    if (ellipsizeWidth > 0) {
+        pango_layout_set_width(s.layout.get(), ellipsizeWidth * PANGO_SCALE);
+        pango_layout_set_ellipsize(s.layout.get(), PANGO_ELLIPSIZE_END);
+    }
+    pango_layout_get_pixel_extents(s.layout.get(), nullptr, &s.logical);
+    return s;
+}
+
+const ShapedTextCache::Shaped& ShapedTextCache::get(const LightweightString<wchar_t>& text, const FontDesc& font, int ellipsizeWidth) {
+    ellipsizeWidth = std::max(0, ellipsizeWidth);
+    const LightweightString<char> utf8 = toUTF8(text);
+    // Everything that changes the shape, then the text.
+    std::string key = font.name.str();
+    key += '\0' + std::to_string(font.size) + ',' + std::to_string(font.style) + ',' + std::to_string(ellipsizeWidth) + '\0';
+    key += utf8.str();
+    if (const Shaped* found = cache_.find(key)) return *found;
+    return cache_.insert(std::move(key), shape(utf8, font, ellipsizeWidth));
+}
+
+} // namespace Glib
