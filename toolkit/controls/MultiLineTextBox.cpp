@@ -9,7 +9,7 @@ MultiLineTextBox::MultiLineTextBox(const InitArgs& args) : TextBoxBase(args, arg
 int MultiLineTextBox::calcHeightForLines(int lines, int fontSize, int margin) {
     Glib::FontDesc font = Glib::FontDesc().resolved();
     if (fontSize > 0) font = font.withSize(fontSize);
-    int line = Glib::TextLayout({}, font).height();
+    int line = Glib::TextLayout::emptyLineHeight(font);
     return std::max(1, lines) * line + 2 * (margin >= 0 ? margin : defaultMargin());
 }
 

@@ -7,7 +7,7 @@
 
 TextBox::TextBox(const InitArgs& args) : TextBoxBase(args, args.text.getString()) {}
 
-int TextBox::calcHeight(const Glib::FontDesc& font) { return Glib::TextLayout({}, font.resolved()).height() + 2 * defaultMargin(); }
+int TextBox::calcHeight(const Glib::FontDesc& font) { return Glib::TextLayout::emptyLineHeight(font) + 2 * defaultMargin(); }
 
 void TextBox::setDisplaySuffix(const LightweightString<wchar_t>& suffix) {
     suffix_ = suffix;

@@ -5,6 +5,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
+#include <mutex>
+#include <string>
+#include <tuple>
 #include <utility>
 
 namespace {
@@ -49,6 +53,20 @@ int toPango(int pixels) {
 namespace Glib {
 
 TextLayout::TextLayout() : TextLayout(LightweightString<wchar_t>(), FontDesc()) {}
+
+int TextLayout::emptyLineHeight(const FontDesc& font) {
+    static std::mutex lock;
+    static std::map<std::tuple<std::string, int, unsigned>, int> heights;
+    const FontDesc f = font.resolved();
+    const auto key = std::make_tuple(f.name.str(), f.size, f.style);
+    {
+        std::lock_guard<std::mutex> g(lock);
+        if (auto it = heights.find(key); it != heights.end()) return it->second;
+    }
+    const int h = TextLayout({}, f).height();
+    std::lock_guard<std::mutex> g(lock);
+    return heights.emplace(key, h).first->second;
+}
 
 TextLayout::TextLayout(const LightweightString<wchar_t>& text, const FontDesc& font, int wrapWidth)
     : layout_(pango_layout_new(layoutContext())) {

@@ -45,6 +45,9 @@ public:
     int width() const;
     int height() const;
     int numLines() const { return static_cast<int>(lines_.size()); }
+    // The height of one empty line in `font`: what a box sized for lines adds per line.
+    // Kept per font, for controls that size themselves by it as they are made.
+    static int emptyLineHeight(const FontDesc& font);
     // The line that holds the caret before `index`: at a soft break, the later line.
     int lineOf(std::size_t index) const;
     // The first index of a line, and the index after its last character (before
