@@ -2,9 +2,7 @@
 #include "Logger.h"
 
 #include "core/WStringFromAscii.h"
-#include "draw/StateSaver.h"
-#include "glob/GlobManager.h"
-#include "glob/UifStd.h"
+#include "glob/makeTopLevel.h"
 
 #include <cstdarg>
 #include <cstdio>
@@ -78,18 +76,5 @@ Logger* make_logger(LightweightString<wchar_t> title, bool flag1, LightweightStr
     // Added after the height was computed: the gauge's row is not counted.
     if (flag1) a.flags |= Logger::kMadeByFunction;
     if (showProgress) a.flags |= Logger::kShowProgress;
-    a.palette = UifStd::instance().getColourScheme();
-    WidgetPosition where = x < 0 ? Glob::Centre(0, 0, kAlignEnd) : Glob::BottomLeft(x, y);
-    Drawable::disableRedraws();
-    Logger* logger;
-    {
-        Glib::StateSaver saver;
-        GlobManager& gm = GlobManager::instance();
-        XY<int> pos = gm.getSafePosForGlob(nullptr, gm.getPosForGlob(a, where), XY<int>(a.width, a.height));
-        logger = new Logger(a);
-        logger->setupRootPos(pos);
-        gm.realize(logger);
-    }
-    Drawable::enableRedraws();
-    return logger;
+    return makeTopLevel<Logger>(a, x < 0 ? Glob::Centre(0, 0, kAlignEnd) : Glob::BottomLeft(x, y));
 }

@@ -2,9 +2,9 @@
 
 #include "LogFileFormat.h"
 #include "controls/Message.h"
-#include "draw/StateSaver.h"
 #include "glob/GlobManager.h"
 #include "glob/UifStd.h"
+#include "glob/makeTopLevel.h"
 #include "platform/CommandRegistrar.h"
 #include "platform/FilespecUtils.h"
 #include "platform/OS.h"
@@ -37,19 +37,7 @@ SavableLogger* SavableLogger::show(const Zn::Ptr<iTaskLog>& log) {
     if (!log) return nullptr;
     InitArgs a(50, 0, 0);
     a.taskLog = log;
-    a.palette = UifStd::instance().getColourScheme();
-    Drawable::disableRedraws();
-    SavableLogger* panel;
-    {
-        Glib::StateSaver saver;
-        GlobManager& gm = GlobManager::instance();
-        XY<int> pos = gm.getSafePosForGlob(nullptr, gm.getPosForGlob(a, Glob::Centre(0, 0, kAlignEnd)), XY<int>(a.width, a.height));
-        panel = new SavableLogger(a);
-        panel->setupRootPos(pos);
-        gm.realize(panel);
-    }
-    Drawable::enableRedraws();
-    return panel;
+    return makeTopLevel<SavableLogger>(a, Glob::Centre(0, 0, kAlignEnd));
 }
 
 int SavableLogger::handleMessageEvent(const LightweightString<char>& message, Glob* sender) {

@@ -1,8 +1,7 @@
 #include "HostPanel.h"
 
-#include "draw/StateSaver.h"
-#include "glob/GlobManager.h"
 #include "glob/UifStd.h"
+#include "glob/makeTopLevel.h"
 
 HostPanel::HostPanel(const InitArgs& args) : StandardPanel(args) {
     setBorder(getDefaultBorder());
@@ -12,18 +11,5 @@ HostPanel::HostPanel(const InitArgs& args) : StandardPanel(args) {
 }
 
 HostPanel* HostPanel::make(const InitArgs& args) {
-    InitArgs a(args);
-    a.canvas = nullptr;
-    a.isChild = false;
-    a.palette = UifStd::instance().getColourScheme();
-    Drawable::disableRedraws();
-    Glib::StateSaver saver;
-    GlobManager& gm = GlobManager::instance();
-    const WidgetPosition where = a.position.origin == kNoPosition ? Glob::Centre(0, 0) : a.position;
-    const XY<int> size(a.width, a.height);
-    auto* host = new HostPanel(a);
-    host->setupRootPos(gm.getSafePosForGlob(nullptr, gm.getPosForGlob(a, where), size));
-    gm.realize(host);
-    Drawable::enableRedraws();
-    return host;
+    return makeTopLevel<HostPanel>(args, args.position.origin == kNoPosition ? Glob::Centre(0, 0) : args.position);
 }

@@ -2,8 +2,7 @@
 
 #include "controls/CodeEditor.h"
 #include "controls/PushButton.h"
-#include "draw/StateSaver.h"
-#include "glob/GlobManager.h"
+#include "glob/makeTopLevel.h"
 #include "glob/UifStd.h"
 #include "platform/CommandRegistrar.h"
 #include "platform/JSON.h"
@@ -34,16 +33,7 @@ UIBuilderTestPanel::UIBuilderTestPanel(const InitArgs& args) : StandardPanel(arg
 }
 
 UIBuilderTestPanel* UIBuilderTestPanel::make() {
-    InitArgs args(800, 600);
-    args.palette = UifStd::instance().getColourScheme();
-    Drawable::disableRedraws();
-    Glib::StateSaver saver;
-    GlobManager& gm = GlobManager::instance();
-    auto* panel = new UIBuilderTestPanel(args);
-    panel->setupRootPos(gm.getSafePosForGlob(nullptr, gm.getPosForGlob(args, Glob::Centre(0, 0)), panel->size()));
-    gm.realize(panel);
-    Drawable::enableRedraws();
-    return panel;
+    return makeTopLevel<UIBuilderTestPanel>(InitArgs(800, 600), Glob::Centre(0, 0));
 }
 
 int UIBuilderTestPanel::handleMessageEvent(const LightweightString<char>& message, Glob* sender) {

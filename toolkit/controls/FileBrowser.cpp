@@ -1,6 +1,7 @@
 #include "FileBrowser.h"
 
 #include "glob/GlobManager.h"
+#include "glob/makeTopLevel.h"
 #include "glob/Messaging.h"
 #include "glob/UifStd.h"
 #include "platform/ResourceStrings.h"
@@ -31,20 +32,8 @@ std::vector<TableColumnDescription> FileBrowser::getColumnDefinitions() {
 }
 
 FileBrowser* FileBrowser::make(const FileBrowserBase::InitArgs& args, XY<int> position) {
-    FileBrowserBase::InitArgs a(args);
-    a.canvas = nullptr;
-    a.isChild = false;
-    a.palette = UifStd::instance().getColourScheme();
     const bool given = !(position == XY<int>(0, 0)) && !(position == XY<int>(-1234, -1234));
-    const WidgetPosition where = given ? Glob::BottomLeft(position) : Glob::Centre(0, 0);
-
-    Drawable::disableRedraws();
-    auto* browser = new FileBrowser(a);
-    GlobManager& gm = GlobManager::instance();
-    GlobCreationInfo info(static_cast<unsigned short>(browser->width()), static_cast<unsigned short>(browser->height()));
-    browser->setupRootPos(gm.getSafePosForGlob(nullptr, gm.getPosForGlob(info, where), browser->size()));
-    gm.realize(browser);
+    auto* browser = makeTopLevel<FileBrowser>(args, given ? Glob::BottomLeft(position) : Glob::Centre(0, 0));
     set_kbd_focus(browser->table());
-    Drawable::enableRedraws();
     return browser;
 }

@@ -205,6 +205,13 @@ XY<int> GlobManager::getPosForGlob(const GlobCreationInfo& info, const WidgetPos
     return getSafePosForGlob(nullptr, {cascade_.x, s.height() - cascade_.y - size.y}, size);
 }
 
+void GlobManager::show(Glob* g, const WidgetPosition& where) {
+    if (!g) return;
+    GlobCreationInfo info(static_cast<unsigned short>(g->width()), static_cast<unsigned short>(g->height()));
+    g->setupRootPos(getPosForGlob(info, where));
+    realize(g);
+}
+
 void GlobManager::redisplay(Glob* g, const XY<int>& pos, eCoordinateOrigin origin, bool doRaise) {
     if (!is_good_glob_ptr(g) || g->parent()) return;
     GlobCreationInfo info(static_cast<unsigned short>(g->width()), static_cast<unsigned short>(g->height()));
