@@ -177,18 +177,24 @@ void CanvasRenderer::render(const Glib::TextDescription& t) const {
     if (!canvas_ || t.text.empty() || t.box.isEmpty()) return;
     cairo_t* cr = canvas_->context();
     XY<int> o = canvas_->origin();
-    const Glib::ShapedTextCache::Shaped& shaped = Glib::ShapedTextCache::forThisThread().get(t.text, t.font, t.ellipsize ? t.box.width() : 0);
+    Glib::ShapedTextCache::Shaped& shaped = Glib::ShapedTextCache::forThisThread().get(t.text, t.font, t.ellipsize ? t.box.width() : 0);
     const PangoRectangle& logical = shaped.logical;
     double x = o.x + t.box.x1;
     if (t.align == Glib::kAlignCentreH) x += (t.box.width() - logical.width) / 2.0;
     if (t.align == Glib::kAlignRight) x += t.box.width() - logical.width;
-    double top = canvas_->cairoY(o.y + t.box.y2) + std::floor((t.box.height() - logical.height) / 2.0);
+    // Whole pixels, so that a kept mask of the text is the text.
+    const int left = static_cast<int>(std::round(x));
+    const int top = static_cast<int>(canvas_->cairoY(o.y + t.box.y2) + std::floor((t.box.height() - logical.height) / 2.0));
     cairo_save(cr);
     cairo_rectangle(cr, o.x + t.box.x1, canvas_->cairoY(o.y + t.box.y2), t.box.width(), t.box.height());
     cairo_clip(cr);
     setColour(t.colour);
-    cairo_move_to(cr, std::round(x), top);
-    pango_cairo_show_layout(cr, shaped.layout.get());
+    if (cairo_surface_t* mask = Glib::ShapedTextCache::maskOf(shaped)) {
+        cairo_mask_surface(cr, mask, left + shaped.maskOrigin.x, top + shaped.maskOrigin.y);
+    } else {
+        cairo_move_to(cr, left, top);
+        pango_cairo_show_layout(cr, shaped.layout.get());
+    }
     cairo_restore(cr);
     noteModified(t.box.x1, t.box.y1, t.box.x2, t.box.y2);
 }

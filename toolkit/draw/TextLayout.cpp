@@ -2,6 +2,7 @@
 
 #include "Canvas.h"
 #include "PangoSupport.h"
+#include "ShapedTextCache.h"
 
 #include <algorithm>
 #include <cmath>
@@ -115,17 +116,20 @@ TextLayout::TextLayout(const LightweightString<wchar_t>& text, const FontDesc& f
 
 TextLayout::~TextLayout() {
     if (layout_) g_object_unref(layout_);
+    if (mask_) cairo_surface_destroy(mask_);
 }
 
 TextLayout::TextLayout(TextLayout&& other) noexcept
     : layout_(std::exchange(other.layout_, nullptr)), bytes_(std::move(other.bytes_)), stops_(std::move(other.stops_)),
-      lines_(std::move(other.lines_)) {}
+      lines_(std::move(other.lines_)), mask_(std::exchange(other.mask_, nullptr)), maskOrigin_(other.maskOrigin_) {}
 
 TextLayout& TextLayout::operator=(TextLayout&& other) noexcept {
     std::swap(layout_, other.layout_);
     std::swap(bytes_, other.bytes_);
     std::swap(stops_, other.stops_);
     std::swap(lines_, other.lines_);
+    std::swap(mask_, other.mask_);
+    std::swap(maskOrigin_, other.maskOrigin_);
     return *this;
 }
 
@@ -231,8 +235,16 @@ void TextLayout::render(Canvas* canvas, int left, int top, const BoxInt& clip, c
     cairo_rectangle(cr, o.x + clip.x1, canvas->cairoY(o.y + clip.y2), clip.width(), clip.height());
     cairo_clip(cr);
     cairo_set_source_rgba(cr, colour.red(), colour.green(), colour.blue(), colour.alpha());
-    cairo_move_to(cr, o.x + left, canvas->cairoY(o.y + top));
-    pango_cairo_show_layout(cr, layout_);
+    const int x = o.x + left, y = static_cast<int>(canvas->cairoY(o.y + top));
+    // Boxes repaint the same text over and over: one composite through its kept
+    // coverage paints what showing every glyph again would.
+    if (!mask_) mask_ = ShapedTextCache::makeMask(layout_, maskOrigin_).release();
+    if (mask_) {
+        cairo_mask_surface(cr, mask_, x + maskOrigin_.x, y + maskOrigin_.y);
+    } else {
+        cairo_move_to(cr, x, y);
+        pango_cairo_show_layout(cr, layout_);
+    }
     cairo_restore(cr);
     BoxInt painted = clip.translated(o.x, o.y);
     painted.clip(canvas->clip());

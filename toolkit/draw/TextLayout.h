@@ -10,6 +10,7 @@
 
 class Canvas;
 typedef struct _PangoLayout PangoLayout;
+typedef struct _cairo_surface cairo_surface_t;
 
 namespace Glib {
 
@@ -89,6 +90,9 @@ private:
     std::vector<int> bytes_;
     std::vector<bool> stops_;
     std::vector<Line> lines_;
+    // The painted coverage, made on the first paint of a layout small enough to keep it.
+    mutable cairo_surface_t* mask_ = nullptr;
+    mutable XY<int> maskOrigin_;
 };
 
 } // namespace Glib

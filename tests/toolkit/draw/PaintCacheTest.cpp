@@ -1,9 +1,12 @@
 // Shapes and text painted through the caches that keep their coverage and their
 // shaping across paints must look as painting them afresh would.
 #include "core/LruCache.h"
+#include "core/Utf8.h"
 #include "draw/Canvas.h"
 #include "draw/CanvasRenderer.h"
+#include "draw/PangoSupport.h"
 #include "draw/ShapeMaskCache.h"
+#include "draw/TextLayout.h"
 
 #include <gtest/gtest.h>
 
@@ -185,4 +188,69 @@ TEST(PaintCache, TextKeptFromAnEarlierPaintLooksAsTextShapedAfresh) {
     CanvasRenderer(&wide).render(label(longText, 300, true));
     EXPECT_EQ(inkColumns(narrow, 80), 0);
     EXPECT_GT(inkColumns(wide, 80), 100) << "the wide label is not the narrow one's shape";
+}
+
+TEST(PaintCache, TextPaintedThroughItsKeptCoverageIsTheTextPangoPaints) {
+    const BoxInt box(7, 5, 290, 35);
+    for (const Colour& ink : {kInk, kSeeThrough}) {
+        // Ink may reach past the logical box: left of a "j", above stacked accents.
+        for (const wchar_t* text : {L"jump A\u0302\u0302\u0302 Gain 12: \u00c9t\u00e9 AVA office", L"\u0645\u0631\u062d\u0628\u0627 \u6e32\u67d3 Wj", L"   "}) {
+            Canvas kept(300, 40), fresh(300, 40);
+            CanvasRenderer(&kept).fill(kBackground);
+            CanvasRenderer(&fresh).fill(kBackground);
+            CanvasRenderer(&kept).render(Glib::TextDescription(box, text, Glib::getDefaultFont(), ink));
+            paintDirectly(fresh, ink, [&](cairo_t* cr) {
+                PangoLayout* layout = pango_cairo_create_layout(cr);
+                PangoFontDescription* d = Glib::makePangoFont(Glib::getDefaultFont());
+                pango_layout_set_font_description(layout, d);
+                pango_font_description_free(d);
+                pango_layout_set_text(layout, toUTF8(text).c_str(), -1);
+                PangoRectangle logical;
+                pango_layout_get_pixel_extents(layout, nullptr, &logical);
+                // Text is cut off at its box's edges.
+                cairo_rectangle(cr, box.x1, fresh.cairoY(box.y2), box.width(), box.height());
+                cairo_clip(cr);
+                cairo_move_to(cr, box.x1, fresh.cairoY(box.y2) + std::floor((box.height() - logical.height) / 2.0));
+                pango_cairo_show_layout(cr, layout);
+                g_object_unref(layout);
+            });
+            Difference d = compare(kept, fresh, 1);
+            EXPECT_EQ(d.over, 0) << LightweightString<wchar_t>(text) << ": worst " << d.worst;
+        }
+    }
+}
+
+TEST(PaintCache, EditableTextPaintedThroughItsKeptCoverageIsTheTextPangoPaints) {
+    for (int wrap : {0, 120}) {
+        const wchar_t* text = L"jump A\u0302\u0302\u0302 clip 0042 \u00e9t\u00e9, wrapped when the box is narrow";
+        Glib::TextLayout layout(text, Glib::getDefaultFont(), wrap);
+        Canvas kept(300, 80), fresh(300, 80);
+        CanvasRenderer(&kept).fill(kBackground);
+        CanvasRenderer(&fresh).fill(kBackground);
+        // Twice: the second paint is the kept one, and clipped to a part.
+        layout.render(&kept, 5, 70, BoxInt(0, 0, 300, 80), kInk);
+        layout.render(&kept, 5, 70, BoxInt(0, 40, 60, 80), kSeeThrough);
+        paintDirectly(fresh, kInk, [&](cairo_t* cr) {
+            PangoLayout* direct = pango_cairo_create_layout(cr);
+            PangoFontDescription* d = Glib::makePangoFont(Glib::getDefaultFont());
+            pango_layout_set_font_description(direct, d);
+            pango_font_description_free(d);
+            if (wrap > 0) {
+                pango_layout_set_wrap(direct, PANGO_WRAP_WORD_CHAR);
+                pango_layout_set_width(direct, wrap * PANGO_SCALE);
+            }
+            pango_layout_set_text(direct, toUTF8(text).c_str(), -1);
+            cairo_move_to(cr, 5, fresh.cairoY(70));
+            pango_cairo_show_layout(cr, direct);
+            cairo_rectangle(cr, 0, fresh.cairoY(80), 60, 40);
+            cairo_clip(cr);
+            cairo_set_source_rgba(cr, kSeeThrough.red(), kSeeThrough.green(), kSeeThrough.blue(), kSeeThrough.alpha());
+            cairo_move_to(cr, 5, fresh.cairoY(70));
+            pango_cairo_show_layout(cr, direct);
+            g_object_unref(direct);
+        });
+        Difference d = compare(kept, fresh, 1);
+        EXPECT_EQ(d.over, 0) << "wrap " << wrap << ": worst " << d.worst;
+        EXPECT_GT(inkColumns(kept, 1), 50);
+    }
 }
