@@ -15,7 +15,7 @@ namespace Glib {
 // rules allow a break only at spaces. Widths come from the advance of each
 // character and the kerning of each pair, each measured by Pango once and cached,
 // so the answers are Pango's own. Anything else (other scripts, tabs, hyphens and
-// slashes, "ff" before a letter, a word too wide for a line, a line that ends
+// slashes, "ff" in a one-line measure, a word too wide for a line, a line that ends
 // within a hair of the width) is left to Pango: the answer then says so.
 // One cache per thread, like the Pango context it measures with.
 class TextAdvanceCache {
