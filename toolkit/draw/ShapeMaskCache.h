@@ -29,7 +29,7 @@ public:
     cairo_surface_t* get(const std::string& key, int width, int height, const Painter& paint);
 
     static constexpr std::size_t kCapacity = 256;
-    static constexpr long kLargestArea = 1L << 15;
+    static constexpr long kLargestArea = 1L << 14;
 
 private:
     using Mask = std::unique_ptr<cairo_surface_t, void (*)(cairo_surface_t*)>;

@@ -42,7 +42,7 @@ public:
     static Mask makeMask(PangoLayout* layout, XY<int>& origin);
 
     static constexpr std::size_t kCapacity = 512;
-    static constexpr long kLargestMask = 1L << 16;
+    static constexpr long kLargestMask = 1L << 14;
 
 private:
     static Shaped shape(const LightweightString<char>& utf8, const FontDesc& font, int ellipsizeWidth);
