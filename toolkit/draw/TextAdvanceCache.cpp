@@ -138,11 +138,17 @@ bool TextAdvanceCache::isSimple(wchar_t c) {
     return c >= 0xC0 && c <= kLast && c != 0xD7 && c != 0xF7;
 }
 
+// The most recently used font first; past kFontsKept the least recently used goes,
+// so that a program zooming through many sizes does not keep a table for each.
 TextAdvanceCache::FontTable& TextAdvanceCache::tableFor(const FontDesc& font) {
-    for (auto& t : tables_)
-        if (t->font == font) return *t;
-    tables_.push_back(std::make_unique<FontTable>(font));
-    return *tables_.back();
+    auto found = std::find_if(tables_.begin(), tables_.end(), [&](const auto& t) { return t->font == font; });
+    if (found != tables_.end()) {
+        std::rotate(tables_.begin(), found, found + 1);
+    } else {
+        if (tables_.size() >= kFontsKept) tables_.pop_back();
+        tables_.insert(tables_.begin(), std::make_unique<FontTable>(font));
+    }
+    return *tables_.front();
 }
 
 std::int64_t TextAdvanceCache::measure(std::wstring_view text, const FontDesc& font) {

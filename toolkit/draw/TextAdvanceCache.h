@@ -33,6 +33,9 @@ public:
     // text is not simple, as for measure(). Empty text is left to Pango too.
     XY<int> measurePixels(std::wstring_view text, const FontDesc& font);
 
+    // How many fonts' advances a thread keeps.
+    static constexpr std::size_t kFontsKept = 16;
+
     // Pango units in a pixel, for readers of measure().
     static constexpr int kUnitsPerPixel = 1024;
 

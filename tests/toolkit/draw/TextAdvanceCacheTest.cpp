@@ -160,3 +160,14 @@ TEST(TextAdvanceCache, EachThreadHasItsOwnCache) {
     EXPECT_NE(&TextAdvanceCache::forThisThread(), nullptr);
     for (std::size_t i = 0; i < lines.size(); ++i) EXPECT_EQ(counts[0][i], pangoLines(lines[i], 150, font));
 }
+
+TEST(TextAdvanceCache, FontsBeyondThoseKeptAreMeasuredAfreshAndStillRight) {
+    TextAdvanceCache& cache = TextAdvanceCache::forThisThread();
+    const LightweightString<wchar_t> text = L"Zoom AVA To 42";
+    for (int round = 0; round < 2; ++round) {
+        for (int size = 8; size < 8 + 2 * int(TextAdvanceCache::kFontsKept); ++size) {
+            Glib::FontDesc font = Glib::getDefaultFont().withSize(size);
+            ASSERT_EQ(cache.measurePixels(text.view(), font), pangoSize(text, font)) << "size " << size << ", round " << round;
+        }
+    }
+}
