@@ -80,7 +80,9 @@ start_gallery() {
 
 window_shown() {
   kill -0 "$app" 2>/dev/null || fail "the gallery ended early"
-  win=$(xdotool search --onlyvisible --name "Mosaic gallery" | head -1)
+  # A window that goes while xdotool looks at it (SDL makes and drops one while it
+  # starts) is an X error to xdotool: not a failure, only "not yet".
+  win=$(xdotool search --onlyvisible --name "Mosaic gallery" 2>/dev/null | head -1) || win=""
   [ -n "$win" ]
 }
 
