@@ -115,6 +115,14 @@ LightweightString<char> saveScreen(const char* name) {
     return path;
 }
 
+int countPixels(const Glob* g, const BoxInt& box, const Colour& colour, int tolerance) {
+    const std::uint32_t opaque = 0xFF000000u, want = argb(colour) | opaque;
+    int n = 0;
+    for (int y = box.y1; y < box.y2; ++y)
+        for (int x = box.x1; x < box.x2; ++x) n += near(globPixel(g, x, y) | opaque, want, tolerance);
+    return n;
+}
+
 ::testing::AssertionResult pixelNear(const Glob* g, int x, int y, std::uint32_t expected, int tolerance) {
     std::uint32_t got = globPixel(g, x, y);
     if (near(got, expected, tolerance)) return ::testing::AssertionSuccess();

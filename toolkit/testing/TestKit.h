@@ -37,6 +37,10 @@ std::uint32_t globPixel(const Glob* g, int x, int y);
 // The colour as 0xAARRGGBB, as a canvas stores it.
 std::uint32_t argb(const Colour& c);
 
+// How many pixels of `box` (the glob's coordinates) have red, green and blue each
+// within `tolerance` of the colour's; alpha is left aside.
+int countPixels(const Glob* g, const BoxInt& box, const Colour& colour, int tolerance = 0);
+
 // Passes when the glob's pixel is within `tolerance` per channel of `expected`;
 // on failure the screen and the glob's canvas are written out as PNG files.
 ::testing::AssertionResult pixelNear(const Glob* g, int x, int y, std::uint32_t expected, int tolerance = 0);

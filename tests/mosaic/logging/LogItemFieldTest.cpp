@@ -14,20 +14,6 @@ using TestKit::argb;
 
 namespace {
 
-// Pixels of a box of a glob's canvas within `tolerance` of a colour.
-int pixelsNear(const Glob* g, const BoxInt& box, const Colour& c, int tolerance) {
-    std::uint32_t want = argb(c);
-    int n = 0;
-    for (int y = box.y1; y < box.y2; ++y)
-        for (int x = box.x1; x < box.x2; ++x) {
-            std::uint32_t got = TestKit::globPixel(g, x, y);
-            bool close = true;
-            for (int s = 0; s < 24; s += 8) close = close && std::abs(int((got >> s) & 0xFF) - int((want >> s) & 0xFF)) <= tolerance;
-            n += close;
-        }
-    return n;
-}
-
 // The panels that internal links make, with the settings they were made with.
 struct Made {
     static std::vector<GlobCreationInfo>& all() {
@@ -61,11 +47,11 @@ TEST_F(LoggerFixture, RowsArePaintedInTheColourOfTheirKindAndBlankRowsStayEmpty)
     TableWidget* t = l->table();
     auto box = [&](int r) { return t->getCellBox({0, r}); };
     const Palette& p = l->getPalette();
-    EXPECT_GT(pixelsNear(t, box(0), p.text(0), 40), 20);
-    EXPECT_GT(pixelsNear(t, box(1), Colour(1.0, 1.0, 0.0), 40), 20) << "warnings in yellow";
-    EXPECT_EQ(pixelsNear(t, box(1), p.text(0), 40), 0);
-    EXPECT_GT(pixelsNear(t, box(2), Colour(0.1, 0.7, 0.3), 40), 20) << "success in green";
-    EXPECT_GT(pixelsNear(t, box(3), p.warning(), 40), 20) << "errors in the warning colour";
+    EXPECT_GT(TestKit::countPixels(t, box(0), p.text(0), 40), 20);
+    EXPECT_GT(TestKit::countPixels(t, box(1), Colour(1.0, 1.0, 0.0), 40), 20) << "warnings in yellow";
+    EXPECT_EQ(TestKit::countPixels(t, box(1), p.text(0), 40), 0);
+    EXPECT_GT(TestKit::countPixels(t, box(2), Colour(0.1, 0.7, 0.3), 40), 20) << "success in green";
+    EXPECT_GT(TestKit::countPixels(t, box(3), p.warning(), 40), 20) << "errors in the warning colour";
     ASSERT_EQ(l->rows()[4].text, L"");
     ASSERT_EQ(l->rows()[6].text, L"");
     Colour ground = p.childWindow(kChildList);
@@ -73,7 +59,7 @@ TEST_F(LoggerFixture, RowsArePaintedInTheColourOfTheirKindAndBlankRowsStayEmpty)
         BoxInt empty = box(r);
         ASSERT_FALSE(empty.isEmpty());
         EXPECT_EQ(empty.height(), row) << "an empty row keeps its height";
-        EXPECT_EQ(pixelsNear(t, empty, ground, 2), empty.width() * empty.height()) << "and paints nothing";
+        EXPECT_EQ(TestKit::countPixels(t, empty, ground, 2), empty.width() * empty.height()) << "and paints nothing";
     }
 }
 
@@ -91,17 +77,17 @@ TEST_F(LoggerFixture, ASectionRowPaintsItsTextAndARuleToTheRightEdgeOnOneLine) {
     // The rule is one row of pixels from after the text to the right edge less a gap.
     int ruleY = -1, bestRun = 0;
     for (int y = cell.y1; y < cell.y2; ++y) {
-        int run = pixelsNear(t, BoxInt(cell.x1 + cell.width() / 2, y, cell.x2 - gap - 1, y + 1), rule, 24);
+        int run = TestKit::countPixels(t, BoxInt(cell.x1 + cell.width() / 2, y, cell.x2 - gap - 1, y + 1), rule, 24);
         if (run > bestRun) bestRun = run, ruleY = y;
     }
     EXPECT_EQ(bestRun, cell.x2 - gap - 1 - (cell.x1 + cell.width() / 2)) << "a whole run of rule pixels";
-    EXPECT_EQ(pixelsNear(t, BoxInt(cell.x2 - gap + 1, ruleY, cell.x2, ruleY + 1), rule, 24), 0) << "it stops a gap short of the edge";
-    EXPECT_GT(pixelsNear(t, BoxInt(cell.x1, cell.y1, cell.x1 + 30, cell.y2), p.subheadingText(), 60), 5) << "the text is there";
+    EXPECT_EQ(TestKit::countPixels(t, BoxInt(cell.x2 - gap + 1, ruleY, cell.x2, ruleY + 1), rule, 24), 0) << "it stops a gap short of the edge";
+    EXPECT_GT(TestKit::countPixels(t, BoxInt(cell.x1, cell.y1, cell.x1 + 30, cell.y2), p.subheadingText(), 60), 5) << "the text is there";
     l->resize(l->width(), l->height());
     TestKit::pump();
     EXPECT_EQ(l->getRowHeight(4), row) << "a section too wide for the panel stays one line";
     BoxInt wide = t->getCellBox({0, 4});
-    EXPECT_GT(pixelsNear(t, wide, p.subheadingText(), 60), 20) << "and shows its text";
+    EXPECT_GT(TestKit::countPixels(t, wide, p.subheadingText(), 60), 20) << "and shows its text";
 }
 
 TEST_F(LoggerFixture, HTMLRowsAreDrawnAsMarkUpWhateverTheirKind) {
@@ -109,12 +95,12 @@ TEST_F(LoggerFixture, HTMLRowsAreDrawnAsMarkUpWhateverTheirKind) {
     put(l, L"<font color=\"#ff0000\">MMMMMM</font> plain", LB::otWarning);
     TableWidget* t = l->table();
     BoxInt cell = t->getCellBox({0, 0});
-    EXPECT_GT(pixelsNear(t, cell, Colour(1.0, 0.0, 0.0), 40), 20) << "the mark-up's own colour";
+    EXPECT_GT(TestKit::countPixels(t, cell, Colour(1.0, 0.0, 0.0), 40), 20) << "the mark-up's own colour";
     int shown = Glib::measureText(L"MMMMMM plain", Glib::getDefaultFont()).x + 2 * TableColumnDescription::textMargin();
     BoxInt after(cell.x1 + shown, cell.y1, cell.x2, cell.y2);
     Colour ground = l->getPalette().childWindow(kChildList);
-    EXPECT_EQ(pixelsNear(t, after, ground, 2), after.width() * after.height()) << "no tags painted as text";
-    EXPECT_GT(pixelsNear(t, cell, Colour(1.0, 1.0, 0.0), 40), 5) << "untagged text in the row's own colour";
+    EXPECT_EQ(TestKit::countPixels(t, after, ground, 2), after.width() * after.height()) << "no tags painted as text";
+    EXPECT_GT(TestKit::countPixels(t, cell, Colour(1.0, 1.0, 0.0), 40), 5) << "untagged text in the row's own colour";
     EXPECT_EQ(l->rows()[0].numLines, 1);
 }
 

@@ -36,20 +36,6 @@ protected:
     int row = 0;
 };
 
-// How many pixels of a box of `g` lie within `tolerance` of a colour.
-int pixelsNear(const Glob* g, const BoxInt& box, const Colour& c, int tolerance) {
-    std::uint32_t want = argb(c);
-    int n = 0;
-    for (int y = box.y1; y < box.y2; ++y)
-        for (int x = box.x1; x < box.x2; ++x) {
-            std::uint32_t got = TestKit::globPixel(g, x, y);
-            bool close = true;
-            for (int s = 0; s < 24; s += 8) close = close && std::abs(int((got >> s) & 0xFF) - int((want >> s) & 0xFF)) <= tolerance;
-            n += close;
-        }
-    return n;
-}
-
 } // namespace
 
 TEST_F(ScrollListTest, PaintsTheRowsInViewWithTheSelectionAndText) {
@@ -62,8 +48,8 @@ TEST_F(ScrollListTest, PaintsTheRowsInViewWithTheSelectionAndText) {
     EXPECT_EQ(sel.y2, l->listArea().y2 - 2 * row);
     EXPECT_TRUE(pixelNear(l, sel.x1 + 1, sel.y1 + 1, argb(p.selection(kSelectionUnfocused)), 1));
     EXPECT_TRUE(pixelNear(l, other.x1 + 1, other.y1 + 1, argb(p.childWindow(kChildList)), 1));
-    EXPECT_GT(pixelsNear(l, other, p.text(), 40), 10);
-    EXPECT_GT(pixelsNear(l, sel, p.text(kTextOnSelection), 40), 10);
+    EXPECT_GT(TestKit::countPixels(l, other, p.text(), 40), 10);
+    EXPECT_GT(TestKit::countPixels(l, sel, p.text(kTextOnSelection), 40), 10);
     // The scroll bar takes the right edge and the rows stop short of it.
     EXPECT_EQ(l->scrollBar()->getX(), l->width() - ScrollBar::thickness());
     EXPECT_EQ(l->listArea().x2, l->scrollBar()->getX());

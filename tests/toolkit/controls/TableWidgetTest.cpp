@@ -105,19 +105,6 @@ protected:
     int row = 0;
 };
 
-int pixelsNear(const Glob* g, const BoxInt& box, const Colour& c, int tolerance) {
-    std::uint32_t want = argb(c);
-    int n = 0;
-    for (int y = box.y1; y < box.y2; ++y)
-        for (int x = box.x1; x < box.x2; ++x) {
-            std::uint32_t got = TestKit::globPixel(g, x, y);
-            bool close = true;
-            for (int s = 0; s < 24; s += 8) close = close && std::abs(int((got >> s) & 0xFF) - int((want >> s) & 0xFF)) <= tolerance;
-            n += close;
-        }
-    return n;
-}
-
 } // namespace
 
 TEST_F(TableWidgetTest, ColumnsShareTheWidthAndTheHeaderRowsAndCurrentRowArePainted) {
@@ -135,21 +122,21 @@ TEST_F(TableWidgetTest, ColumnsShareTheWidthAndTheHeaderRowsAndCurrentRowArePain
     // The header shows the titles on its own shade.
     BoxInt header = t->headerBox();
     EXPECT_TRUE(pixelNear(t, header.x2 - ScrollBar::thickness() - 2, header.y1 + 2, argb(p.window(kShadeDark)), 1));
-    EXPECT_GT(pixelsNear(t, BoxInt(header.x1, header.y1, header.x1 + 60, header.y2), p.text(), 40), 5);
+    EXPECT_GT(TestKit::countPixels(t, BoxInt(header.x1, header.y1, header.x1 + 60, header.y2), p.text(), 40), 5);
 
     // Row 0 is current and highlighted; row 1 is plain with text; the kind column is coloured.
     BoxInt first = t->getCellBox({0, 0}), second = t->getCellBox({0, 1});
     EXPECT_EQ(first.y2, t->bodyBox().y2);
     EXPECT_TRUE(pixelNear(t, first.x2 - 2, first.y1 + 2, argb(p.selection(kSelectionUnfocused)), 1));
     EXPECT_TRUE(pixelNear(t, second.x2 - 2, second.y1 + 2, argb(p.childWindow(kChildList)), 1));
-    EXPECT_GT(pixelsNear(t, second, p.text(), 40), 5);
-    EXPECT_GT(pixelsNear(t, first, p.text(kTextOnSelection), 40), 5);
+    EXPECT_GT(TestKit::countPixels(t, second, p.text(), 40), 5);
+    EXPECT_GT(TestKit::countPixels(t, first, p.text(kTextOnSelection), 40), 5);
     BoxInt kind = t->getCellBox({2, 1});
     EXPECT_TRUE(pixelNear(t, kind.x2 - 2, kind.y1 + 2, argb(files.kindColour), 1));
     // The size column's text is at its right: its left part stays clear.
     BoxInt size = t->getCellBox({1, 1});
-    EXPECT_EQ(pixelsNear(t, BoxInt(size.x1 + 1, size.y1, size.x1 + 20, size.y2), p.text(), 60), 0);
-    EXPECT_GT(pixelsNear(t, BoxInt(size.x2 - 20, size.y1, size.x2, size.y2), p.text(), 60), 3);
+    EXPECT_EQ(TestKit::countPixels(t, BoxInt(size.x1 + 1, size.y1, size.x1 + 20, size.y2), p.text(), 60), 0);
+    EXPECT_GT(TestKit::countPixels(t, BoxInt(size.x2 - 20, size.y1, size.x2, size.y2), p.text(), 60), 3);
 
     // Without highlighting the current row looks like any other.
     t->setHighlightCurrentRow(false);
@@ -357,7 +344,7 @@ TEST_F(TableWidgetTest, MissingAndBadDataDegradeQuietly) {
     TableWidget* t = make(files);
     EXPECT_EQ(t->getLastVisibleRow(), 5);
     BoxInt blank = t->getCellBox({0, 4});
-    EXPECT_EQ(pixelsNear(t, blank, t->getPalette().text(), 60), 0);
+    EXPECT_EQ(TestKit::countPixels(t, blank, t->getPalette().text(), 60), 0);
     EXPECT_FALSE(t->startEditing({0, 8}));
     EXPECT_FALSE(t->startEditing({1, 2}));
     EXPECT_FALSE(t->startEditing({9, 2}));

@@ -49,12 +49,7 @@ inline bool channelsNear(std::uint32_t a, std::uint32_t b, int tolerance) {
 // How many pixels of `box` (glob coordinates) are within `tolerance` of `colour`.
 inline int countPixels(const Glob* g, const BoxInt& box, const Colour& colour, int tolerance = 0) {
     TestKit::pump();
-    std::uint32_t want = TestKit::argb(colour);
-    int n = 0;
-    for (int y = box.y1; y < box.y2; ++y)
-        for (int x = box.x1; x < box.x2; ++x)
-            if (channelsNear(TestKit::globPixel(g, x, y), want, tolerance)) ++n;
-    return n;
+    return TestKit::countPixels(g, box, colour, tolerance);
 }
 
 // How many pixels of `box` differ from `background` by more than `tolerance`: ink.
