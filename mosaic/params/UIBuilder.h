@@ -8,6 +8,7 @@
 #include "platform/JSONElement.h"
 
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <vector>
 
@@ -15,6 +16,7 @@ class Glob;
 class NumericTextBox;
 class Slider;
 class StandardPanel;
+class TabOrderable;
 class VerticalScrollingBase;
 
 // Turns parameters into rows of widgets in a panel: one row per parameter, its
@@ -122,8 +124,8 @@ protected:
 private:
     template <class T>
     T* createRow(typename T::InitArgs& args, const WidgetPosition& position, const WidgetSurround& surround);
-    // What every maker does last: tooltip, activity, record and tab stop.
-    void finishRow(const Zn::Ptr<GenericParam::iParam>& param, Glob* row, eRedrawFlag activeFlag);
+    // What every maker does last: tooltip, activity, record and tab stops (null ones skipped).
+    void finishRow(const Zn::Ptr<GenericParam::iParam>& param, Glob* row, eRedrawFlag activeFlag, std::initializer_list<TabOrderable*> stops = {});
     Glob* makeSliderRow(const Zn::Ptr<GenericParam::iParam>& param, const SliderRow& row, const WidgetPosition& position, const WidgetSurround& surround);
     Glob* makeHeading(const ElementPtr& element, const WidgetPosition& position, const WidgetSurround& surround);
     Glob* makeRowForElement(const ElementPtr& element, const WidgetPosition& position, const WidgetSurround& surround);

@@ -39,10 +39,12 @@ T* UIBuilder::createRow(typename T::InitArgs& args, const WidgetPosition& positi
     return panel_->createWidget<T>(args, position, surround);
 }
 
-void UIBuilder::finishRow(const Zn::Ptr<iParam>& param, Glob* row, eRedrawFlag activeFlag) {
+void UIBuilder::finishRow(const Zn::Ptr<iParam>& param, Glob* row, eRedrawFlag activeFlag, std::initializer_list<TabOrderable*> stops) {
     row->setContextString(param->getTooltip(), UIString());
     row->setActive(param->isActive(), activeFlag);
     recordRow(param, row);
+    for (TabOrderable* stop : stops)
+        if (stop) panel_->tabOrder().addTabStop(*stop);
 }
 
 Glob* UIBuilder::makeBoolWidget(const Zn::Ptr<iParam>& param, const WidgetPosition& position, const WidgetSurround& surround) {
@@ -50,8 +52,7 @@ Glob* UIBuilder::makeBoolWidget(const Zn::Ptr<iParam>& param, const WidgetPositi
     Checkbox::InitArgs args(param->getLegend().getString(), p.getValue(), {}, width_, static_cast<unsigned short>(rowHeight()));
     auto* box = createRow<Checkbox>(args, position, surround);
     box->setDataAdaptor(adaptorOn<ValAdaptor<bool, bool>>(p));
-    finishRow(param, box, kNoRedraw);
-    panel_->tabOrder().addTabStop(*box);
+    finishRow(param, box, kNoRedraw, {box});
     return box;
 }
 
@@ -67,8 +68,7 @@ Glob* UIBuilder::makeChoiceWidget(const Zn::Ptr<iParam>& param, const WidgetPosi
     auto* row = createRow<TitleMenuButton>(args, position, surround);
     row->getBtn()->setDataAdaptor(adaptor);
     adaptor->forceWidgetUpdate(kNoRedraw);
-    finishRow(param, row, kNoRedraw);
-    panel_->tabOrder().addTabStop(*row->getBtn());
+    finishRow(param, row, kNoRedraw, {row->getBtn()});
     return row;
 }
 
@@ -95,8 +95,7 @@ Glob* UIBuilder::makeFontWidget(const Zn::Ptr<iParam>& param, const WidgetPositi
     row->getBtn()->setStrings(items, MenuItemIndex(), kNoRedraw);
     row->getBtn()->setDataAdaptor(adaptor);
     adaptor->forceWidgetUpdate(kNoRedraw);
-    finishRow(param, row, kNoRedraw);
-    panel_->tabOrder().addTabStop(*row->getBtn());
+    finishRow(param, row, kNoRedraw, {row->getBtn()});
     return row;
 }
 
@@ -104,8 +103,7 @@ Glob* UIBuilder::makeFileWidget(const Zn::Ptr<iParam>& param, const WidgetPositi
     TitledFileChooserButton::InitArgs args(Zn::dynamicCast<FileParam>(param), static_cast<unsigned short>(2 * width_ / 3), width_,
                                            static_cast<unsigned short>(rowHeight()));
     auto* row = createRow<TitledFileChooserButton>(args, position, surround);
-    finishRow(param, row, kNoRedraw);
-    panel_->tabOrder().addTabStop(*row->getBtn());
+    finishRow(param, row, kNoRedraw, {row->getBtn()});
     return row;
 }
 
@@ -220,8 +218,6 @@ Glob* UIBuilder::makeSliderRow(const Zn::Ptr<iParam>& param, const SliderRow& nu
     }
     numbers.bind(slider, box);
 
-    finishRow(param, host, kRedraw);
-    panel_->tabOrder().addTabStop(*slider);
-    if (box) panel_->tabOrder().addTabStop(*box);
+    finishRow(param, host, kRedraw, {slider, box});
     return host;
 }
