@@ -58,20 +58,24 @@ PangoFontDescription* makePangoFont(const FontDesc& font) {
     return d;
 }
 
+PangoLayout* makeLayout(const LightweightString<char>& utf8, const FontDesc& font) {
+    PangoLayout* layout = pango_layout_new(layoutContext());
+    PangoFontDescription* d = makePangoFont(font);
+    pango_layout_set_font_description(layout, d);
+    pango_font_description_free(d);
+    pango_layout_set_text(layout, utf8.c_str(), static_cast<int>(utf8.size()));
+    return layout;
+}
+
 XY<int> measureText(const LightweightString<wchar_t>& text, const FontDesc& font) {
     // Most legends and labels are plain Latin text, which the advance cache measures
     // without shaping; it answers exactly what the layout below would.
     if (XY<int> fast = TextAdvanceCache::forThisThread().measurePixels(text.view(), font); fast.x >= 0) {
         return {fast.x, std::max(fast.y, fontHeight(font))};
     }
-    PangoLayout* layout = pango_layout_new(Glib::layoutContext());
-    PangoFontDescription* d = makePangoFont(font);
-    pango_layout_set_font_description(layout, d);
-    LightweightString<char> utf8 = toUTF8(text);
-    pango_layout_set_text(layout, utf8.c_str(), static_cast<int>(utf8.size()));
+    PangoLayout* layout = makeLayout(toUTF8(text), font);
     PangoRectangle logical;
     pango_layout_get_pixel_extents(layout, nullptr, &logical);
-    pango_font_description_free(d);
     g_object_unref(layout);
     return {logical.width, std::max(logical.height, fontHeight(font))};
 }

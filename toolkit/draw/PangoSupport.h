@@ -12,5 +12,7 @@ PangoFontDescription* makePangoFont(const FontDesc& font);
 // The context every measuring layout is made on, so that a measure always matches
 // what is painted. Per thread: Pango contexts are not shared between threads.
 PangoContext* layoutContext();
+// A layout of one UTF-8 text in a font on that context; the caller unrefs it.
+PangoLayout* makeLayout(const LightweightString<char>& utf8, const FontDesc& font);
 
 } // namespace Glib

@@ -15,11 +15,7 @@ ShapedTextCache& ShapedTextCache::forThisThread() {
 
 ShapedTextCache::Shaped ShapedTextCache::shape(const LightweightString<char>& utf8, const FontDesc& font, int ellipsizeWidth) {
     Shaped s;
-    s.layout.reset(pango_layout_new(layoutContext()));
-    PangoFontDescription* d = makePangoFont(font);
-    pango_layout_set_font_description(s.layout.get(), d);
-    pango_font_description_free(d);
-    pango_layout_set_text(s.layout.get(), utf8.c_str(), static_cast<int>(utf8.size()));
+    s.layout.reset(makeLayout(utf8, font));
     if (ellipsizeWidth > 0) {
         pango_layout_set_width(s.layout.get(), ellipsizeWidth * PANGO_SCALE);
         pango_layout_set_ellipsize(s.layout.get(), PANGO_ELLIPSIZE_END);

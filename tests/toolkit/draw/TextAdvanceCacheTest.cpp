@@ -43,14 +43,9 @@ std::vector<LightweightString<wchar_t>> logLines(int count, unsigned seed) {
 
 // Pango's logical extents in pixels of one line, shaped whole.
 XY<int> pangoSize(const LightweightString<wchar_t>& text, const Glib::FontDesc& font) {
-    PangoLayout* layout = pango_layout_new(Glib::layoutContext());
-    PangoFontDescription* d = Glib::makePangoFont(font);
-    pango_layout_set_font_description(layout, d);
-    LightweightString<char> utf8 = toUTF8(text);
-    pango_layout_set_text(layout, utf8.c_str(), static_cast<int>(utf8.size()));
+    PangoLayout* layout = Glib::makeLayout(toUTF8(text), font);
     PangoRectangle logical;
     pango_layout_get_pixel_extents(layout, nullptr, &logical);
-    pango_font_description_free(d);
     g_object_unref(layout);
     return {logical.width, logical.height};
 }
