@@ -57,7 +57,7 @@ public:
             {L"monospace: fps=25 size=1920x1080", u.getMonospaceFont()},
         };
         for (const Line& l : lines) {
-            r.render(Glib::TextDescription(BoxInt(u.getIndentWidth() / 2, top - row, width(), top), l.text, l.font, getPalette().text()));
+            r.render(Glib::TextDescription(BoxInt(u.getTextIndent() / 2, top - row, width(), top), l.text, l.font, getPalette().text()));
             top -= row;
         }
     }

@@ -26,7 +26,7 @@ public:
         r.fill(getPalette().childWindow());
         int top = height() - u.getRowGap();
         for (const Line& l : lines_) {
-            int indent = l.heading ? u.getRowGap() * 2 : u.getIndentWidth() * 2;
+            int indent = l.heading ? u.getRowGap() * 2 : u.getTextIndent() * 2;
             Glib::FontDesc font = l.heading ? u.getSubheadingFont() : u.getDefaultFont();
             Colour colour = l.heading ? getPalette().subheadingText() : getPalette().text();
             r.render(Glib::TextDescription(BoxInt(indent, top - u.getRowHeight(), width(), top), l.text, font, colour));

@@ -110,7 +110,7 @@ Glob* UIBuilder::makeFileWidget(const Zn::Ptr<iParam>& param, const WidgetPositi
 Glob* UIBuilder::makeTextWidget(const Zn::Ptr<iParam>& param, const WidgetPosition& position, const WidgetSurround& surround) {
     auto& p = dynamic_cast<TextParam&>(*param);
     TitleTextBox::InitArgs args(param->getLegend(), static_cast<unsigned short>(std::max(0, width_ - legendWidth_)), width_,
-                                static_cast<unsigned short>(rowHeight()), TitleTextBox::kLegendAgainstBox);
+                                static_cast<unsigned short>(rowHeight()), TitleTextBox::kLegendLeft);
     args.text = UIString(p.getValue());
     auto* row = createRow<TitleTextBox>(args, position, surround);
     if (!p.hint.empty()) row->setPlaceholder(UIString(p.hint));

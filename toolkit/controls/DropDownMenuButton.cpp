@@ -196,7 +196,8 @@ int DropDownMenuButton::react(const Event& e) {
 
 // ---- size and painting ------------------------------------------------------
 
-int DropDownMenuButton::arrowZone() { return UifStd::instance().getIndentWidth(); }
+// Two thirds of a row at the right for the arrow, whatever the scale.
+int DropDownMenuButton::arrowZone() { return 2 * UifStd::instance().getRowHeight() / 3; }
 
 int DropDownMenuButton::calcWidth(const std::vector<MenuItem>& rows, const Glib::FontDesc& font) {
     const Glib::FontDesc f = font.resolved();

@@ -164,7 +164,7 @@ void FileBrowserBase::buildControls(int) {
 void FileBrowserBase::layout() {
     if (!table_) return;
     const UifStd& u = UifStd::instance();
-    const int row = u.getRowHeight(), gap = u.getWidgetGap(), m = u.getIndentWidth();
+    const int row = u.getRowHeight(), gap = u.getWidgetGap(), m = u.getWidgetGap();
     const BoxInt ua = getUserArea();
     const int w = ua.width(), h = ua.height();
     const int top = std::max(m, h - m - row);

@@ -60,7 +60,7 @@ void Menu::layout() {
     const int frameW = b.left() + b.right();
     const int frameH = b.top() + b.bottom() + (hasTitleBar() ? u.getTitleHeight() : 0) + 2 * u.getRowGap();
 
-    int content = u.getIndentWidth() + labelWidth + (sideWidth_ ? 2 * gap + sideWidth_ : 0) + 2 * gap;
+    int content = u.getTextIndent() + labelWidth + (sideWidth_ ? 2 * gap + sideWidth_ : 0) + 2 * gap;
     int w = std::max({frameW + std::max(content, 2 * row), minWidth_});
     w = std::min(w, maxWidth_ > 0 ? std::min(maxWidth_, screen.width()) : screen.width());
 
@@ -290,7 +290,7 @@ void Menu::paintRow(int row, const BoxInt& box) const {
     const Palette& p = getPalette();
     const MenuItem& item = items_[row];
     const bool lit = row == highlighted_;
-    const int gap = u.getWidgetGap(), indent = u.getIndentWidth();
+    const int gap = u.getWidgetGap(), indent = u.getTextIndent();
     CanvasRenderer r(canvas());
 
     if (item.isHeading())

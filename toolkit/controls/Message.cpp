@@ -18,7 +18,8 @@ constexpr ResId kInformationId = 10;
 
 int lineHeight() { return Glib::fontHeight(UifStd::instance().getDefaultFont()); }
 
-// Room for the row of buttons and the margins around the text, below and beside it.
+// Room for the row of buttons and the margins around the text, below and beside it:
+// a widget gap below the buttons and between them and the text, two indents above it.
 int marginsHeight() {
     const UifStd& u = UifStd::instance();
     return u.getRowHeight() + 2 * u.getWidgetGap() + 2 * u.getIndentWidth();
@@ -70,7 +71,7 @@ void Message::layoutButtons() {
     row += gap * static_cast<int>(buttons_.size() - 1);
     int x = std::max(0, (getUserArea().width() - row) / 2);
     for (PushButton* b : buttons_) {
-        setWidgetPos(b, UserBottomLeft(x, u.getIndentWidth()));
+        setWidgetPos(b, UserBottomLeft(x, u.getWidgetGap()));
         x += b->width() + gap;
     }
 }
@@ -100,23 +101,22 @@ int Message::calcTextWidth(const UIString& title, int buttonsWidth) {
     int w = std::max(buttonsWidth, 18 * u.getRowHeight());
     // A long title widens the panel rather than being cut.
     const int titleW = Glib::measureText(title.getString(), u.getTitleFont()).x + 4 * u.getRowGap();
-    return std::max(w, titleW - 2 * u.getIndentWidth());
+    return std::max(w, titleW - 2 * u.getTextIndent());
 }
 
 XY<int> Message::calcSize(const UIString& title, const UIString& text, int buttonsWidth) {
     const int textW = calcTextWidth(title, buttonsWidth);
     const Analysis a = analyse(text, textW);
-    const XY<int> user(textW + 2 * UifStd::instance().getIndentWidth(), a.height + marginsHeight());
+    const XY<int> user(textW + 2 * UifStd::instance().getTextIndent(), a.height + marginsHeight());
     return calcPanelSize(user, kMoveByTitle, getDefaultBorder());
 }
 
-int Message::textIndent() const { return UifStd::instance().getIndentWidth(); }
+int Message::textIndent() const { return UifStd::instance().getTextIndent(); }
 
 BoxInt Message::textBox() const {
     const UifStd& u = UifStd::instance();
     const BoxInt ua = getUserArea();
-    BoxInt b(ua.x1 + textIndent(), ua.y1 + u.getIndentWidth() + u.getRowHeight() + 2 * u.getWidgetGap(), ua.x2 - u.getIndentWidth(),
-             ua.y2 - u.getIndentWidth());
+    BoxInt b(ua.x1 + textIndent(), ua.y1 + u.getRowHeight() + 2 * u.getWidgetGap(), ua.x2 - u.getTextIndent(), ua.y2 - 2 * u.getIndentWidth());
     if (b.x2 < b.x1) b.x2 = b.x1;
     if (b.y2 < b.y1) b.y2 = b.y1;
     return b;

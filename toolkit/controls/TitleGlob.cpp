@@ -30,9 +30,9 @@ TitleGlob::TitleGlob(const InitArgs& args)
 
 int TitleGlob::calcTitleWidth(const UIString& title, const Glib::FontDesc& font) {
     const LightweightString<wchar_t> text = title.getString();
-    const int gap = UifStd::instance().getWidgetGap();
-    if (text.empty()) return gap;
-    return Glib::measureText(text, resolveFont(font)).x + 2 * gap;
+    const UifStd& u = UifStd::instance();
+    if (text.empty()) return u.getWidgetGap();
+    return u.getLegendInset() + Glib::measureText(text, resolveFont(font)).x + u.getWidgetGap();
 }
 
 void TitleGlob::setTitle(const UIString& title, const Glib::FontDesc& font, eRedrawFlag flag) {
@@ -130,10 +130,10 @@ void TitleGlob::drawBackground() {
     StandardPanel::drawBackground();
     const LightweightString<wchar_t> text = legend_.getString();
     if (text.empty()) return;
-    const int gap = UifStd::instance().getWidgetGap();
+    const int inset = UifStd::instance().getLegendInset(), gap = UifStd::instance().getWidgetGap();
     const BoxInt t = titleBox();
-    if (t.width() <= 2 * gap) return;
-    Glib::TextDescription d(BoxInt(t.x1 + gap, t.y1, t.x2 - gap, t.y2), text, legendFont_,
+    if (t.width() <= inset + gap) return;
+    Glib::TextDescription d(BoxInt(t.x1 + inset, t.y1, t.x2 - gap, t.y2), text, legendFont_,
                             getPalette().text(isActive() ? kTextNormal : kTextDimmed), align_);
     d.ellipsize = true;
     CanvasRenderer(canvas()).render(d);

@@ -8,8 +8,9 @@
 // A row of a parameter panel: a legend at the left and a control at the right.
 //
 // Geometry, in the row's own coordinates: the legend column runs from x = 0 to
-// getTitleWidth(), the whole height of the row; the legend is drawn in it one
-// widget gap in from either side, vertically centred. The control is the first
+// getTitleWidth(), the whole height of the row; the legend is drawn in it from
+// UifStd's legend inset, as in every titled row, to a widget gap short of its right
+// side, vertically centred. The control is the first
 // child added to the row (or the one named by setControl); it takes the width the
 // legend column leaves. When the row is resized the legend column keeps its width,
 // the control gains or loses the whole change of width, and a control placed by

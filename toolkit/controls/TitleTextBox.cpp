@@ -20,7 +20,8 @@ TitleTextBox::TitleTextBox(const InitArgs& args)
 
 int TitleTextBox::calcTitleWidth(const UIString& title, const Glib::FontDesc& font) {
     if (title.empty()) return 0;
-    return UifStd::instance().measure(title.getString(), font.resolved()).x + UifStd::instance().getWidgetGap();
+    const UifStd& u = UifStd::instance();
+    return u.getLegendInset() + u.measure(title.getString(), font.resolved()).x + u.getWidgetGap();
 }
 
 void TitleTextBox::layoutBox() {
@@ -73,9 +74,9 @@ void TitleTextBox::resize(double w, double h) {
 void TitleTextBox::drawBackground() {
     CanvasRenderer r(canvas());
     r.fill(getPalette().window());
-    if (legend_.empty() || titleWidth_ <= 0) return;
-    int gap = UifStd::instance().getWidgetGap();
-    Glib::TextDescription legend(BoxInt(0, 0, std::max(0, titleWidth_ - gap), height()), legend_.getString(), getFont(),
+    const int inset = UifStd::instance().getLegendInset(), gap = UifStd::instance().getWidgetGap();
+    if (legend_.empty() || titleWidth_ <= inset + gap) return;
+    Glib::TextDescription legend(BoxInt(inset, 0, titleWidth_ - gap, height()), legend_.getString(), getFont(),
                                  isActive() ? getPalette().text() : getPalette().text(kTextDimmed),
                                  style_ == kLegendAgainstBox ? Glib::kAlignRight : Glib::kAlignLeft);
     legend.ellipsize = true;

@@ -8,8 +8,9 @@
 // given to it binds the box, and the box's commits are what it requests.
 class TitleTextBox : public StandardPanel, public TabOrderableHost, public ValWidget<LightweightString<wchar_t>> {
 public:
-    // 0: the legend from the left edge; 1: the legend set against the box.
-    enum eStyle { kLegendLeft = 0, kLegendAgainstBox = 1 };
+    // 1: the legend starts at the legend inset, where every titled row's does, so
+    // that it lines up with the other legends of a panel; 0: it is set against the box.
+    enum eStyle { kLegendAgainstBox = 0, kLegendLeft = 1 };
 
     struct InitArgs : GlobCreationInfo {
         UIString title;
@@ -33,7 +34,7 @@ public:
     int getTitleWidth() const { return titleWidth_; }
     void setStyle(eStyle style);
     eStyle getStyle() const { return style_; }
-    // The legend's width for a title: its text and a widget gap.
+    // The legend's width for a title: the legend inset, its text and a widget gap.
     static int calcTitleWidth(const UIString& title, const Glib::FontDesc& font = {});
 
     // Passed on to the box.

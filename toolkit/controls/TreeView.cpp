@@ -103,7 +103,7 @@ bool TreeView::selectItem(ItemId item, bool notify) {
 }
 
 BoxInt TreeView::openerBox(int row, const BoxInt& rowBox) const {
-    int x = rowBox.x1 + depthOfRow(row) * UifStd::instance().getIndentWidth();
+    int x = rowBox.x1 + depthOfRow(row) * UifStd::instance().getTextIndent();
     return BoxInt(x, rowBox.y1, x + rowBox.height(), rowBox.y2);
 }
 

@@ -15,7 +15,8 @@ Warn::Warn(const InitArgs& args) : Message(args, args.labels, args.callbacks) {
 
 BoxInt Warn::stripeBox() const {
     const BoxInt ua = getUserArea();
-    const int w = std::max(2, UifStd::instance().getIndentWidth() / 2);
+    // Half the text's indent, so the text keeps clear of it.
+    const int w = std::max(2, UifStd::instance().getTextIndent() / 2);
     return BoxInt(ua.x1, ua.y1, std::min(ua.x2, ua.x1 + w), ua.y2);
 }
 

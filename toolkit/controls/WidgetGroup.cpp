@@ -74,7 +74,7 @@ BoxInt WidgetGroup::legendBox() const {
     if (legend_.empty()) return {};
     const int gap = UifStd::instance().getWidgetGap();
     const XY<int> text = Glib::measureText(legend_.getString(), font_);
-    const int x1 = frameBox().x1 + UifStd::instance().getIndentWidth();
+    const int x1 = frameBox().x1 + UifStd::instance().getTextIndent();
     // The legend never reaches past the frame's right-hand corner.
     const int x2 = std::max(x1, std::min(x1 + text.x + 2 * gap, frameBox().x2 - gap));
     return BoxInt(x1, std::max(0, height() - text.y), x2, height());

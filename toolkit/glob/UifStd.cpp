@@ -21,7 +21,9 @@ void UifStd::setScale(double scale) {
 int UifStd::getRowHeight() const { return scaled(24); }
 int UifStd::getRowGap() const { return scaled(4); }
 int UifStd::getWidgetGap() const { return scaled(6); }
-int UifStd::getIndentWidth() const { return scaled(16); }
+int UifStd::getIndentWidth() const { return scaled(2); }
+int UifStd::getTextIndent() const { return scaled(16); }
+int UifStd::getLegendInset() const { return getWidgetGap(); }
 int UifStd::getBorderWidth() const { return scaled(2); }
 int UifStd::getTitleHeight() const { return scaled(24); }
 

@@ -14,7 +14,17 @@ public:
     int getRowHeight() const;
     int getRowGap() const;
     int getWidgetGap() const;
+    // A thin inset, a few pixels: the width of rings and of the edges of a
+    // dropped-down widget, the margin of a swatch in its button and of a control
+    // in its row. It is as thick as a panel's border, so an inset of the border
+    // less the indent is never negative.
     int getIndentWidth() const;
+    // How far text steps in from where its column starts: one level of a tree, the
+    // mark column before a menu's labels, a group's legend along its frame.
+    int getTextIndent() const;
+    // Where the legend of every titled row starts, from the row's left edge, so that
+    // the legends of a panel's rows line up whatever their controls.
+    int getLegendInset() const;
     int getBorderWidth() const;
     int getTitleHeight() const;
     double getScale() const { return scale_; }

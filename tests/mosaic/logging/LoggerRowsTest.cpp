@@ -196,3 +196,37 @@ TEST_F(LoggerFixture, APanelHoldsAtMost65535RowsAndDropsTheRest) {
     l->table()->revealRow(65'534, false);
     TestKit::pump();
 }
+
+TEST_F(LoggerFixture, TheGaugeSitsOneIndentInsideThePanelWithClearSpaceBelowTheTable) {
+    for (double scale : {1.0, 2.0}) {
+        UifStd::instance().setScale(scale);
+        const UifStd& u = UifStd::instance();
+        Logger* l = make(Logger::kShowProgress);
+        l->progress(1.0); // a full bar: the whole gauge in one colour
+        TestKit::pump();
+        const BoxInt user = l->getUserArea();
+        const std::uint32_t back = TestKit::argb(l->getPalette().window());
+        // How many pixels from `from` on, a step of `step` at a time, keep to one side of the panel's colour.
+        auto run = [&](XY<int> from, XY<int> step, bool panel) {
+            int n = 0;
+            for (XY<int> p = from; p.x >= user.x1 && p.x < user.x2 && p.y >= user.y1 && p.y < user.y2 && (TestKit::globPixel(l, p.x, p.y) == back) == panel;
+                 p.x += step.x, p.y += step.y)
+                ++n;
+            return n;
+        };
+        const int indent = u.getIndentWidth(), x = (user.x1 + user.x2) / 2;
+        const int below = run({x, user.y1}, {0, 1}, true);
+        const int gauge = run({x, user.y1 + below}, {0, 1}, false);
+        const int clear = run({x, user.y1 + below + gauge}, {0, 1}, true);
+        EXPECT_EQ(below, indent) << "at " << scale << ": one indent between the panel's bottom and the gauge";
+        EXPECT_EQ(gauge, u.getRowHeight()) << "a row high";
+        EXPECT_GT(clear, 0) << "the gauge and the table do not touch";
+        EXPECT_EQ(below + gauge + clear, u.getRowHeight() + 2 * u.getWidgetGap()) << "the table ends a row and two gaps up";
+        EXPECT_GT(run({x, user.y1 + below + gauge + clear}, {0, 1}, false), 0) << "where it is painted";
+        const int middle = user.y1 + below + gauge / 2;
+        EXPECT_EQ(run({user.x1, middle}, {1, 0}, true), indent) << "one indent in from the left";
+        EXPECT_EQ(run({user.x2 - 1, middle}, {-1, 0}, true), indent) << "and from the right";
+        TestKit::reset();
+    }
+    UifStd::instance().setScale(1.0);
+}

@@ -43,7 +43,7 @@ TEST_F(RenderProgressPanels, ThePreviewAreaHasThePicturesShapeAboveTheGauge) {
         EXPECT_EQ(p->videoWindow().getSize(), size);
         EXPECT_EQ(p->getAreaForImageLW(), area) << "a top-level panel's canvas is its own";
     }
-    EXPECT_LE(RenderProgressPanel::calcImageSize(10, Zn::Image::kAspect16x9).x, 0) << "too narrow for a picture";
+    EXPECT_LE(RenderProgressPanel::calcImageSize(6, Zn::Image::kAspect16x9).x, 0) << "too narrow for a picture";
 }
 
 TEST_F(RenderProgressPanels, ThePreviewsPixelsArePaintedInTheImageAreaInsideItsFrame) {

@@ -309,33 +309,33 @@ TEST_F(UIBuilderList, InAScrollerTheRowsAreStackedByIt) {
 }
 
 TEST_F(UIBuilderList, PaintedLegendsLineUpInOneColumnAndTheSliderAndBoxSitInTheirPlaces) {
+    // Legends that begin with one letter begin with one column of ink when they line up.
     UIBuilder::ParamList params;
     params.push_back(make<DoubleParam>(L"Gain", "gain", L"", 0.5, 0.0, 1.0));
-    params.push_back(ranged(make<IntParam>(40, "count", L"Wide legend for a count", L""), 0, 100));
-    params.push_back(make<TextParam>(WString(L"clip"), "name", L"Name", L""));
+    params.push_back(ranged(make<IntParam>(40, "count", L"Grain, a wide legend for a count", L""), 0, 100));
+    params.push_back(make<TextParam>(WString(L"clip"), "name", L"Group", L""));
+    params.push_back(make<ChoiceParam>(L"Grade", "grade", L"", 20, std::vector<ChoiceParam::Choice>{{L"One", 10}, {L"Two", 20}}));
     params.push_back(make<BoolParam>(L"Loop", "loop", L"", true));
     auto set = build(params);
     UIBuilder probe(panel, 0);
     probe.calcMaxLegendWidth(params);
     const int L = probe.getLegendWidth();
 
-    // The first inked column of a row's legend, in panel coordinates.
+    // The first column of a row's legend column with a pixel of the text's colour, in panel coordinates.
     auto legendStart = [&](Glob* row) {
         const int left = row->screenPos().x - panel->screenPos().x;
-        const std::uint32_t back = TestKit::globPixel(row, 1, 1);
         for (int x = 0; x < L; ++x)
-            for (int y = 3; y < row->height() - 3; ++y)
-                if (TestKit::globPixel(row, x, y) != back) return left + x;
+            if (TestKit::countPixels(row, BoxInt(x, 0, x + 1, row->height()), row->getPalette().text(), 40) > 0) return left + x;
         return -1;
     };
     auto titled = [&](const char* id) { return dynamic_cast<SliderParamHost*>(set->getWidget(id))->titled; };
     const int gainStart = legendStart(titled("gain"));
-    ASSERT_GE(gainStart, 0) << "the legend is painted";
+    ASSERT_GT(gainStart, 0) << "the legend is painted, inset from the row's edge";
     EXPECT_EQ(legendStart(titled("count")), gainStart);
-    // A text row sets its legend against its box, which starts at the same column as the sliders.
+    EXPECT_EQ(legendStart(set->getWidget("name")), gainStart) << "a text row's legend";
+    EXPECT_EQ(legendStart(set->getWidget("grade")), gainStart) << "a choice row's legend";
     auto* name = dynamic_cast<TitleTextBox*>(set->getWidget("name"));
-    EXPECT_GT(legendStart(name), gainStart);
-    EXPECT_EQ(name->getTextBox()->screenPos().x - name->screenPos().x, L);
+    EXPECT_EQ(name->getTextBox()->screenPos().x - name->screenPos().x, L) << "the text box starts at the legend column";
 
     // The slider's track is painted right of the legend column and nowhere left of it;
     // the number box is painted at the row's right edge, one indent in.

@@ -37,8 +37,8 @@ protected:
     }
     int count(const std::string& message) const { return static_cast<int>(std::count(host->messages.begin(), host->messages.end(), message)); }
     static BoxInt arrowArea(const DropDownMenuButton* b) {
-        const int zone = UifStd::instance().getIndentWidth() + UifStd::instance().getWidgetGap();
-        return BoxInt(b->width() - zone, 2, b->width() - 2, b->height() - 2);
+        // The arrow keeps within a row's height of the right edge.
+        return BoxInt(b->width() - UifStd::instance().getRowHeight(), 2, b->width() - 2, b->height() - 2);
     }
 };
 
@@ -69,7 +69,7 @@ TEST_F(DropDowns, AChoiceByMouseShowsOnTheButtonAndFiresOnce) {
         120, 26));
     Menu* m = openWithClick(b);
     ASSERT_NE(m, nullptr);
-    const BoxInt label(0, 0, b->width() - UifStd::instance().getIndentWidth() - UifStd::instance().getWidgetGap(), b->height());
+    const BoxInt label(0, 0, b->width() - UifStd::instance().getRowHeight(), b->height());
     const int inkBefore = pixelsLike(b, label, b->getPalette().text(), 60);
     TestKit::click(rowCentre(m, 1));
     EXPECT_FALSE(b->isMenuOpen());
@@ -244,7 +244,7 @@ TEST_F(DropDowns, CalcWidthFitsTheWidestChoiceBesideTheArrow) {
     const int narrow = DropDownMenuButton::calcWidth(std::vector<UIString>{UIString(L"24")}, font);
     const int wide = DropDownMenuButton::calcWidth(std::vector<UIString>{UIString(L"24"), UIString(L"A much longer entry")}, font);
     EXPECT_GT(wide, narrow);
-    EXPECT_GT(wide, UifStd::instance().measure(UIString(L"A much longer entry")).x + UifStd::instance().getIndentWidth());
+    EXPECT_GT(wide, UifStd::instance().measure(UIString(L"A much longer entry")).x + UifStd::instance().getRowHeight() / 2) << "room for the arrow";
     EXPECT_EQ(DropDownMenuButton::calcWidth(UIString(L"24"), font), narrow);
     EXPECT_EQ(DropDownMenuButton::calcWidth(std::vector<MenuItem>{MenuItem(UIString(L"A much longer heading"), {}, kMenuItemHeading),
                                                                     MenuItem(UIString(L"24"))},

@@ -12,7 +12,7 @@ protected:
     // The box of a row's text, right of the column where a choice is marked.
     static BoxInt textArea(const Menu* m, int row) {
         BoxInt b = m->rowBox(row);
-        return BoxInt(b.x1 + UifStd::instance().getIndentWidth(), b.y1, b.x2, b.y2);
+        return BoxInt(b.x1 + UifStd::instance().getTextIndent(), b.y1, b.x2, b.y2);
     }
 };
 

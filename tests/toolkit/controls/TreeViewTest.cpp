@@ -49,7 +49,7 @@ protected:
     // The centre of a row's opener, on the screen.
     XY<int> opener(int r) const {
         BoxInt b = view->itemBox(r);
-        int x = b.x1 + view->depthOfRow(r) * UifStd::instance().getIndentWidth() + row / 2;
+        int x = b.x1 + view->depthOfRow(r) * UifStd::instance().getTextIndent() + row / 2;
         return TestKit::screenPointOf(view, {x, (b.y1 + b.y2) / 2});
     }
     XY<int> text(int r) const {
@@ -97,7 +97,7 @@ TEST_F(TreeViewTest, OpenersAreDrawnPointingRightWhenClosedAndDownWhenOpen) {
     TestKit::pump();
     auto probe = [&](int r) {
         BoxInt b = view->itemBox(r);
-        int half = row / 4, x0 = b.x1 + view->depthOfRow(r) * UifStd::instance().getIndentWidth();
+        int half = row / 4, x0 = b.x1 + view->depthOfRow(r) * UifStd::instance().getTextIndent();
         int cx = x0 + row / 2, cy = b.y1 + row / 2, base = (half + 1) / 2;
         // Ink at the left end of a downward arrow's top edge; a right arrow does not reach there.
         return TestKit::globPixel(view, cx - half, cy + base);
@@ -106,7 +106,7 @@ TEST_F(TreeViewTest, OpenersAreDrawnPointingRightWhenClosedAndDownWhenOpen) {
     EXPECT_EQ(probe(1), argb(p.childWindow(kChildList)));
     // The child's opener is indented by one step.
     BoxInt b = view->itemBox(1);
-    int indent = UifStd::instance().getIndentWidth();
+    int indent = UifStd::instance().getTextIndent();
     EXPECT_TRUE(pixelNear(view, b.x1 + indent + row / 2 - 1, b.y1 + row / 2, argb(p.text()), 1));
     EXPECT_TRUE(pixelNear(view, b.x1 + row / 2 - 1, b.y1 + row / 2, argb(p.childWindow(kChildList)), 1));
 }
