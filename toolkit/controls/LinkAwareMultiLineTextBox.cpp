@@ -70,7 +70,9 @@ std::vector<Link> linksOf(const LightweightVector<Paragraph>& paragraphs) {
     for (const Paragraph& p : paragraphs) {
         for (const Run& r : p.runs) {
             const std::size_t end = at + r.text.size();
-            if (!r.link.empty() && !links.empty() && links.back().end == at && links.back().url == r.link)
+            // An address in several styles is one link.
+            bool continues = !links.empty() && links.back().end == at && links.back().url == r.link;
+            if (continues)
                 links.back().end = end;
             else if (!r.link.empty())
                 links.push_back({at, end, r.link});
@@ -86,8 +88,8 @@ int markupRowHeight() { return Glib::TextLayout::emptyLineHeight(Glib::getDefaul
 
 } // namespace
 
-// Mark-up as shown, made at the first paint or question after a change and kept
-// until the next: text, width, font and margin changes drop it.
+// Mark-up as shown, made when first painted or asked about and kept until the
+// text, the size, the margin or the ink changes.
 struct LinkAwareMultiLineTextBox::Markup {
     Colour ink;
     HTMLLayout layout;
@@ -111,8 +113,8 @@ const LinkAwareMultiLineTextBox::Markup& LinkAwareMultiLineTextBox::markup() con
     return *markup_;
 }
 
-// Lines start at the text area's left and its top, and may reach into the
-// margins below and to the right, as a heading taller than its row does.
+// Lines start at the text area's left, and may reach into the margins as a
+// heading taller than its row does.
 BoxInt LinkAwareMultiLineTextBox::markupClip() const {
     const BoxInt inside = insideFrame();
     return BoxInt(textArea().x1, inside.y1, inside.x2, inside.y2);
