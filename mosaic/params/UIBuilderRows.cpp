@@ -127,7 +127,8 @@ Glob* UIBuilder::makeTextWidget(const Zn::Ptr<iParam>& param, const WidgetPositi
 Glob* UIBuilder::makeLabelWidget(const Zn::Ptr<iParam>& param, const WidgetPosition& position, const WidgetSurround& surround) {
     const LightweightString<wchar_t> text = param->getLegend().getString();
     const auto paragraphs = HTMLRenderer::parse(text, UifStd::instance().getColourScheme());
-    const int lines = HTMLRenderer::calcNumDisplayLines(paragraphs, width_);
+    // Measured at the width the box wraps at, inside its margins, so that no line is left out.
+    const int lines = HTMLRenderer::calcNumDisplayLines(paragraphs, static_cast<unsigned short>(MultiLineTextBox::calcWrapWidth(width_)));
     LinkAwareMultiLineTextBox::InitArgs args(UIString(), width_,
                                              static_cast<unsigned short>(MultiLineTextBox::calcHeightForLines(lines, getDefaultFontSize(), widgetGap())));
     auto* row = createRow<LinkAwareMultiLineTextBox>(args, position, surround);

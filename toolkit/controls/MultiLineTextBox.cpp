@@ -13,6 +13,8 @@ int MultiLineTextBox::calcHeightForLines(int lines, int fontSize, int margin) {
     return std::max(1, lines) * line + 2 * (margin >= 0 ? margin : defaultMargin());
 }
 
+int MultiLineTextBox::calcWrapWidth(int boxWidth) { return std::max(1, boxWidth - 2 * std::min(defaultMargin(), boxWidth / 2) - caretWidth()); }
+
 int MultiLineTextBox::wrapWidth() const { return std::max(1, textArea().width() - caretWidth()); }
 
 XY<int> MultiLineTextBox::textOrigin() const { return {textArea().x1, textArea().y2 + scrollY_}; }

@@ -23,8 +23,11 @@ public:
     // `fontSize` (0: the default size) with `margin` above and below (below 0:
     // the default margin).
     static int calcHeightForLines(int lines, int fontSize = 0, int margin = -1);
+    // The width at which a box `boxWidth` wide with the default margin wraps its
+    // text: what to measure a text at to size a box for it before making the box.
+    static int calcWrapWidth(int boxWidth);
     // How many lines the text takes at the box's present width.
-    int numDisplayLines() const { return layout().numLines(); }
+    virtual int numDisplayLines() const { return layout().numLines(); }
     // How far the text is scrolled up, in pixels.
     int getScrollOffset() const { return scrollY_; }
     void setScrollOffset(int pixels);

@@ -558,7 +558,7 @@ BoxInt TextBoxBase::insideFrame() const {
     return BoxInt(inset, inset, std::max(inset, width() - inset), std::max(inset, height() - inset));
 }
 
-int TextBoxBase::caretWidth() const { return frameWidth(); }
+int TextBoxBase::caretWidth() { return frameWidth(); }
 
 bool TextBoxBase::showsCaret() const { return editable_ && isActive() && hasKbdFocus(); }
 

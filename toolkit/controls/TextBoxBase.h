@@ -165,7 +165,7 @@ protected:
     XY<int> toLayout(XY<int> globPoint) const;
     // A box of the layout in glob coordinates.
     BoxInt layoutBox(const Glib::TextLayout::Rect& r) const;
-    int caretWidth() const;
+    static int caretWidth();
     bool showsCaret() const;
     // The text that Escape restores.
     const LightweightString<wchar_t>& committedText() const { return committed_; }

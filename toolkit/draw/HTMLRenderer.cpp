@@ -1,6 +1,6 @@
 #include "HTMLRenderer.h"
 
-#include "PangoSupport.h"
+#include "HTMLLayout.h"
 #include "HTMLParser.h"
 #include "TextAdvanceCache.h"
 #include "WordWrappingTextRenderer.h"
@@ -15,43 +15,6 @@ namespace {
 using Paragraph = HTMLRenderer::Paragraph;
 using Run = HTMLRenderer::Run;
 
-guint16 pangoChannel(double v) { return static_cast<guint16>(std::lround(std::clamp(v, 0.0, 1.0) * 65535.0)); }
-
-void addAttribute(PangoAttrList* list, PangoAttribute* a, std::size_t start, std::size_t end) {
-    a->start_index = static_cast<guint>(start);
-    a->end_index = static_cast<guint>(end);
-    pango_attr_list_insert(list, a);
-}
-
-void addRunAttributes(PangoAttrList* list, const Run& run, std::size_t start, std::size_t end) {
-    PangoFontDescription* d = Glib::makePangoFont(run.font);
-    addAttribute(list, pango_attr_font_desc_new(d), start, end);
-    pango_font_description_free(d);
-    const Colour& c = run.colour;
-    addAttribute(list, pango_attr_foreground_new(pangoChannel(c.red()), pangoChannel(c.green()), pangoChannel(c.blue())), start, end);
-    // Pango reads an alpha of 0 as "not set", so fully clear text keeps the lowest alpha instead.
-    if (c.alpha() < 1.0) addAttribute(list, pango_attr_foreground_alpha_new(std::max<guint16>(1, pangoChannel(c.alpha()))), start, end);
-    if (run.underline) addAttribute(list, pango_attr_underline_new(PANGO_UNDERLINE_SINGLE), start, end);
-}
-
-Glib::WordWrappingTextRenderer layoutOf(const Paragraph& p, int width, int defaultAlign) {
-    PangoLayout* layout = Glib::WordWrappingTextRenderer::createLayout(width, p.align == HTMLRenderer::kDefaultAlign ? defaultAlign : p.align);
-    PangoFontDescription* base = Glib::makePangoFont(Glib::getDefaultFont());
-    pango_layout_set_font_description(layout, base);
-    pango_font_description_free(base);
-    std::string text;
-    PangoAttrList* attributes = pango_attr_list_new();
-    for (const Run& run : p.runs) {
-        std::size_t start = text.size();
-        text += Glib::WordWrappingTextRenderer::layoutText(run.text).view();
-        if (text.size() > start) addRunAttributes(attributes, run, start, text.size());
-    }
-    pango_layout_set_text(layout, text.c_str(), static_cast<int>(text.size()));
-    pango_layout_set_attributes(layout, attributes);
-    pango_attr_list_unref(attributes);
-    return Glib::WordWrappingTextRenderer(layout);
-}
-
 // A paragraph of one style counts its lines from cached advances when its text
 // allows: labels are mostly that, and a panel counts hundreds of them.
 long linesOf(const Paragraph& p, int width) {
@@ -59,7 +22,7 @@ long linesOf(const Paragraph& p, int width) {
         const Run& run = p.runs.front();
         if (int n = Glib::TextAdvanceCache::forThisThread().countLines(run.text.view(), width, run.font); n > 0) return n;
     }
-    return layoutOf(p, width, HTMLRenderer::kLeft).numLines();
+    return HTMLLayout::layOut(p, width, HTMLRenderer::kLeft).numLines();
 }
 
 // The y of the first row's top edge when the rows take `height` pixels in all.
@@ -95,18 +58,8 @@ void HTMLRenderer::render(Canvas* canvas, const LightweightVector<Paragraph>& pa
                           Alignment alignment) {
     if (!canvas || box.isEmpty() || paragraphs.empty()) return;
     if (rowHeight <= 0) rowHeight = Glib::fontHeight(Glib::getDefaultFont());
-    std::vector<Glib::WordWrappingTextRenderer> layouts;
-    long lines = 0;
-    for (const Paragraph& p : paragraphs) {
-        layouts.push_back(layoutOf(p, box.width(), alignment.horizontal));
-        lines += layouts.back().numLines();
-    }
-    long top = firstRowTop(box, lines * rowHeight, alignment.vertical);
-    for (const auto& layout : layouts) {
-        if (top <= box.y1) break;
-        layout.render(canvas, box, static_cast<int>(top), Colour(), rowHeight);
-        top -= static_cast<long>(layout.numLines()) * rowHeight;
-    }
+    HTMLLayout layout(paragraphs, box.width(), alignment.horizontal);
+    layout.render(canvas, box, firstRowTop(box, layout.numLines() * rowHeight, alignment.vertical), rowHeight);
 }
 
 LightweightString<wchar_t> HTMLRenderer::convertToHTML(const LightweightString<wchar_t>& text, int flags) {

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <utility>
 
 
@@ -110,6 +111,29 @@ void WordWrappingTextRenderer::render(Canvas* canvas, const BoxInt& box, int top
     BoxInt painted = box.translated(o.x, o.y);
     painted.clip(canvas->clip());
     canvas->addModifiedArea(painted);
+}
+
+std::size_t WordWrappingTextRenderer::indexAt(XY<int> p, int rowHeight) const {
+    if (!layout_ || p.y < 0) return npos;
+    std::size_t found = npos;
+    PangoLayoutIter* it = pango_layout_get_iter(layout_);
+    double rowTop = 0;
+    do {
+        PangoRectangle logical;
+        pango_layout_iter_get_line_extents(it, nullptr, &logical);
+        rowTop += rowHeight > 0 ? rowHeight : std::ceil(logical.height / double(PANGO_SCALE));
+        if (p.y >= rowTop) continue;
+        const std::int64_t x = std::int64_t(p.x) * PANGO_SCALE - logical.x;
+        if (x >= 0 && x < logical.width) {
+            int byte = 0, trailing = 0;
+            pango_layout_line_x_to_index(pango_layout_iter_get_line_readonly(it), static_cast<int>(x), &byte, &trailing);
+            const char* text = pango_layout_get_text(layout_);
+            found = static_cast<std::size_t>(g_utf8_pointer_to_offset(text, text + byte));
+        }
+        break;
+    } while (pango_layout_iter_next_line(it));
+    pango_layout_iter_free(it);
+    return found;
 }
 
 unsigned short WordWrappingTextRenderer::calcNumDisplayLines(const LightweightString<wchar_t>& text, int width, const FontDesc& font) {

@@ -6,6 +6,7 @@
 #include "core/Colour.h"
 #include "core/LightweightString.h"
 
+#include <cstddef>
 #include <vector>
 
 class Canvas;
@@ -41,6 +42,11 @@ public:
     void render(Canvas* canvas, const BoxInt& box, const Colour& colour, int rowHeight) const;
     // The same with the first row's top edge at `top` rather than at the box's top.
     void render(Canvas* canvas, const BoxInt& box, int top, const Colour& colour, int rowHeight) const;
+    // The character under a point placed as render() places the lines, in pixels
+    // from the left of the box and the top of the first row, y growing downward:
+    // its index in the text, or npos off the text.
+    std::size_t indexAt(XY<int> p, int rowHeight) const;
+    static constexpr std::size_t npos = static_cast<std::size_t>(-1);
 
     static unsigned short calcNumDisplayLines(const LightweightString<wchar_t>& text, int width, const FontDesc& font);
     static void renderString(Canvas* canvas, const LightweightString<wchar_t>& text, const BoxInt& box, const Colour& colour,

@@ -11,5 +11,6 @@ list(APPEND GLOBKIT_SOURCES
   draw/WordWrappingTextRenderer.cpp
   draw/HTMLParser.cpp
   draw/HTMLRenderer.cpp
+  draw/HTMLLayout.cpp
   draw/HTMLUtils.cpp
 )

@@ -19,6 +19,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <string>
+
 using namespace GenericParam;
 using namespace UIBuilderParamsTestSupport;
 
@@ -310,4 +313,27 @@ TEST_F(UIBuilderJSON, AnAdvancingTextSendsThePanelsMainMessageOnReturn) {
     typeInto(dynamic_cast<TitleTextBox*>(set->getWidget("who"))->getTextBox(), L"me");
     EXPECT_EQ(host->doIts, 1);
     EXPECT_EQ(set->params()[0]->getValueAsString(), L"me");
+}
+
+TEST_F(UIBuilderJSON, ALabelRowShowsItsMarkUpAndIsAsTallAsTheLinesItPaints) {
+    // A plain text just wider than the line the box wraps at, though narrower than the row.
+    const Glib::FontDesc font = Glib::getDefaultFont();
+    const int wrap = MultiLineTextBox::calcWrapWidth(panel->getUserArea().width());
+    std::wstring plain = L"Proxies are written beside the media and masters go to the export folder";
+    while (Glib::TextLayout(LightweightString<wchar_t>(plain), font).width() <= wrap) plain += L"i";
+    const std::wstring json = LR"({"p": [{"type": "label", "name": "plain", "legend": ")" + plain +
+                              LR"("}, {"type": "label", "name": "two", "legend": "<p>First <b>paragraph</b></p><p>Second &lt;one&gt;</p>"}]})";
+    auto set = build(json.c_str());
+    for (const char* id : {"plain", "two"}) {
+        auto* row = dynamic_cast<LinkAwareMultiLineTextBox*>(set->getWidget(id));
+        ASSERT_NE(row, nullptr);
+        EXPECT_EQ(row->numDisplayLines(), 2) << id;
+        const int line = Glib::TextLayout::emptyLineHeight(font), bottom = row->height() - row->getMargin() - 2 * line;
+        ASSERT_GE(bottom, 0) << id << ": the row holds both lines";
+        const std::uint32_t back = TestKit::argb(row->getPalette().window());
+        int ink = 0;
+        for (int y = bottom; y < bottom + line; ++y)
+            for (int x = 0; x < row->width(); ++x) ink += TestKit::globPixel(row, x, y) != back;
+        EXPECT_GT(ink, 20) << id << ": the last line is painted inside the row";
+    }
 }

@@ -223,3 +223,34 @@ TEST_F(MultiLineTextBoxTest, LinksAreDrawnAsLinksAndOpenOnAClick) {
     TestKit::click(TestKit::screenPointOf(box, {x1 + 3, box->height() - l.height() / 2}), Event::kLeft, Modifiers::Control);
     EXPECT_EQ(box->opened.size(), 2u);
 }
+
+TEST_F(MultiLineTextBoxTest, MarkUpThatIsNotEditableShowsAsWhatItMarksUpWithItsLinks) {
+    auto* box = addBox<RecordingLinkBox>(L"<b>media</b><br>media<br><font color='#ff0000'>red</font> <a href='https://example.org/m'>manual</a> "
+                                         L"<a href='file:///etc'>file</a><p>at https://example.org/faq.</p>",
+                                         360, 4);
+    box->setEditable(false);
+    box->setMargin(0);
+    const Palette& p = box->getPalette();
+    const Glib::FontDesc plain = Glib::getDefaultFont(), bold(plain.name, plain.size, Glib::FontDesc::kBold);
+    const int row = Glib::TextLayout::emptyLineHeight(plain);
+    auto band = [&](int line, int x1, int x2) { return BoxInt(x1, box->height() - (line + 1) * row, x2, box->height() - line * row); };
+    const int boldWidth = Glib::TextLayout(L"media", bold).width();
+    EXPECT_EQ(box->numDisplayLines(), 4);
+    EXPECT_GT(inkPixels(box, band(0, 0, boldWidth), p.window()), inkPixels(box, band(1, 0, boldWidth), p.window()) * 6 / 5)
+        << "the bold word has more ink than the same word plain";
+    EXPECT_EQ(inkPixels(box, band(0, boldWidth + 2, box->width()), p.window()), 0) << "no tag is drawn";
+    EXPECT_GT(countPixels(box, band(2, 0, 40), Colour(1.0, 0.0, 0.0), 60), 10) << "a colour of its own";
+
+    Glib::TextLayout third(L"red manual file", plain);
+    const int manual = (third.caret(4).x + third.caret(10).x) / 2, file = (third.caret(11).x + third.caret(15).x) / 2;
+    EXPECT_GT(countPixels(box, band(2, third.caret(4).x, third.caret(10).x), p.subheadingText(), 40), 10) << "a link in the link colour";
+    ASSERT_EQ(box->getLinks().size(), 2u) << "an <a> to a web address is a link, and so is an address in the text";
+    EXPECT_EQ(box->getLinks()[1].url, L"https://example.org/faq");
+    TestKit::click(TestKit::screenPointOf(box, {manual, box->height() - 2 * row - row / 2}));
+    TestKit::click(TestKit::screenPointOf(box, {file, box->height() - 2 * row - row / 2}));
+    ASSERT_EQ(box->opened.size(), 1u);
+    EXPECT_EQ(box->opened[0], L"https://example.org/m");
+
+    box->setEditable(true);
+    EXPECT_GT(inkPixels(box, band(0, boldWidth + 2, box->width()), box->getPalette().childWindow()), 0) << "editable, it shows the tags";
+}
