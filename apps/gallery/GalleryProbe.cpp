@@ -3,6 +3,7 @@
 #include "controls/Button.h"
 #include "controls/Checkbox.h"
 #include "controls/Slider.h"
+#include "controls/TableWidget.h"
 #include "controls/TextBoxBase.h"
 #include "controls/TextLabel.h"
 #include "controls/TitleTextBox.h"
@@ -19,13 +20,15 @@
 
 namespace {
 
-// A glob's box in window coordinates: from the top left, y growing downward.
-BoxInt windowBox(const Glob* g) {
+// A box inside a glob in window coordinates: from the top left, y growing downward.
+BoxInt windowBox(const Glob* g, const BoxInt& local) {
     int h = GlobManager::instance().screen().height();
     XY<int> p = g->screenPos();
-    int top = h - p.y - g->height();
-    return BoxInt(p.x, top, p.x + g->width(), top + g->height());
+    int top = h - p.y - local.y2;
+    return BoxInt(p.x + local.x1, top, p.x + local.x2, top + local.height());
 }
+
+BoxInt windowBox(const Glob* g) { return windowBox(g, BoxInt(0, 0, g->width(), g->height())); }
 
 std::string text(const LightweightString<wchar_t>& s) {
     std::string out = toUTF8(s).str();
@@ -69,6 +72,13 @@ void GalleryProbe::printWidgets(std::FILE* out) {
     visitNamed([&](Glob* g) {
         BoxInt b = windowBox(g);
         std::fprintf(out, "widget %s %s %d %d %d %d\n", g->name().c_str(), g->idstring(), b.x1, b.y1, b.width(), b.height());
+        auto* table = dynamic_cast<const TableWidget*>(g);
+        if (!table || !table->getAdaptor()) return;
+        for (int r = table->getFirstVisibleRow(); r <= table->getLastVisibleRow(); ++r) {
+            BoxInt cell = windowBox(g, table->getCellBox({0, r}));
+            std::fprintf(out, "row %s %d %d %d %d %d %s\n", g->name().c_str(), r, cell.x1, cell.y1, cell.width(), cell.height(),
+                         text(table->getAdaptor()->getFieldText({0, r})).c_str());
+        }
     });
     std::fflush(out);
 }

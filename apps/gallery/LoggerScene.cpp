@@ -2,6 +2,7 @@
 // section with its rule, wrapped text, and the gauge part way with the time left.
 #include "GalleryScene.h"
 
+#include "controls/TableWidget.h"
 #include "draw/Screen.h"
 #include "glob/GlobManager.h"
 #include "logging/Logger.h"
@@ -44,6 +45,7 @@ void buildLogger() {
     a.title = UIString(L"Export log");
     a.palette = UifStd::instance().getColourScheme();
     auto* logger = new Logger(a);
+    logger->table()->setName("log");
     logger->setupRootPos({40, screen.height() - 40 - logger->height()});
     GlobManager::instance().realize(logger);
     // The rows arrive as notices from the worker, in order, when the loop runs.

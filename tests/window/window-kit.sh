@@ -38,6 +38,7 @@ wait_until() {
 
 cleanup() {
   [ -n "${app:-}" ] && kill "$app" 2>/dev/null
+  [ -n "${helper:-}" ] && kill "$helper" 2>/dev/null
   [ -n "${xvfb:-}" ] && kill "$xvfb" 2>/dev/null
   rm -rf "$work"
 }

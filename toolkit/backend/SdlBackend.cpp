@@ -1,7 +1,9 @@
 #include "SdlBackend.h"
+#include "XdndDragSource.h"
 
 #include "core/Utf8.h"
 #include "draw/Screen.h"
+#include "glob/FileDrag.h"
 #include "glob/Glob.h"
 #include "glob/GlobManager.h"
 #include "glob/InputDispatcher.h"
@@ -19,6 +21,7 @@ struct SdlBackend::Impl {
     int texW = 0, texH = 0;
     SDL_Cursor* cursors[9] = {};
     MouseCursorID cursor = kCursorArrow;
+    std::unique_ptr<XdndDragSource> fileDrag;
     std::chrono::steady_clock::time_point nextTick = std::chrono::steady_clock::now();
 };
 
@@ -81,9 +84,18 @@ void SdlBackend::installSystemClipboard() {
                           });
 }
 
+void SdlBackend::installFileDrag() {
+    // Only X11 has a drag protocol here; elsewhere files are not dragged out.
+    impl_->fileDrag = XdndDragSource::forWindow(impl_->window);
+    if (XdndDragSource* source = impl_->fileDrag.get())
+        Glib::setFileDragHandler([source](const std::vector<LightweightString<wchar_t>>& paths) { return source->drag(paths); });
+}
+
 SdlBackend::~SdlBackend() {
     // The window's clipboard goes with the window; the in-process one takes over.
     if (impl_->window) OS()->installClipboard({}, {});
+    if (impl_->fileDrag) Glib::setFileDragHandler({});
+    impl_->fileDrag.reset();
     for (SDL_Cursor* c : impl_->cursors)
         if (c) SDL_FreeCursor(c);
     if (impl_->texture) SDL_DestroyTexture(impl_->texture);
@@ -123,6 +135,7 @@ bool SdlBackend::open(const char* title) {
     for (int i = 0; i < 9; ++i) impl_->cursors[i] = SDL_CreateSystemCursor(shapes[i]);
     SDL_StartTextInput();
     installSystemClipboard();
+    installFileDrag();
     setUIThread();
     GlobManager::instance().screenChanged();
     return impl_->renderer != nullptr;

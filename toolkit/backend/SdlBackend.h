@@ -40,6 +40,7 @@ private:
     void present();
     void updateCursor();
     void installSystemClipboard();
+    void installFileDrag();
     void handle(const void* sdlEvent);
 
     struct Impl;

@@ -1,3 +1,4 @@
 list(APPEND GLOBKIT_SOURCES
   backend/SdlBackend.cpp
+  backend/XdndDragSource.cpp
 )

@@ -187,9 +187,10 @@ TEST_F(LoggerFixture, DraggingALinkFarEnoughHandsItsFilesToTheSystem) {
         TestKit::mouseUp(from + XY<int>(distance, 0));
         TestKit::pump();
     };
+    std::vector<std::string> revealed{"xdg-open " + dir.string() + "/"};
     dragFrom(0, gap - 1);
     EXPECT_TRUE(dragged.empty()) << "a drag shorter than the widget gap starts nothing";
-    EXPECT_EQ(launched, std::vector<std::string>{"xdg-open " + dir.string() + "/"}) << "it is a click";
+    EXPECT_EQ(launched, revealed) << "it is a click";
     launched.clear();
     dragFrom(1, 4 * gap);
     dragFrom(2, 4 * gap);
@@ -198,6 +199,11 @@ TEST_F(LoggerFixture, DraggingALinkFarEnoughHandsItsFilesToTheSystem) {
     ASSERT_EQ(dragged.size(), 1u);
     EXPECT_EQ(dragged[0], (std::vector<std::wstring>{path("a.mov").str(), path("b.mov").str()}));
     EXPECT_TRUE(launched.empty()) << "the release that ends a drag is no click";
+    TestKit::click(rowPoint(l, 0));
+    TestKit::pump();
+    EXPECT_EQ(launched, revealed) << "a press and release in place after a drag is a click again";
+    EXPECT_EQ(dragged.size(), 1u);
+    launched.clear();
     put(l, L"{\"type\":\"LogTestPanel\"}", LB::otHyperLink);
     dragFrom(3, 4 * gap);
     ASSERT_EQ(dragged.size(), 2u) << "an internal link without '|' is offered as a file all the same";

@@ -1,4 +1,5 @@
 #include "backend/SdlBackend.h"
+#include "glob/FileDrag.h"
 #include "platform/OS.h"
 
 #include <SDL.h>
@@ -64,7 +65,7 @@ TEST(SdlBackend, TypedTextArrivesAsWideText) {
     EXPECT_EQ(translate(e).type(), Event::kNone);
 }
 
-TEST(SdlBackend, AnOpenWindowSharesTheClipboardWithTheSystem) {
+TEST(SdlBackend, AnOpenWindowSharesTheClipboardWithTheSystemButOffScreenDragsNoFiles) {
     // SDL's off-screen driver keeps a clipboard of its own, which stands in for the system's.
     setenv("SDL_VIDEODRIVER", "offscreen", 1);
     // A software renderer on an unaccelerated window surface keeps the GL driver
@@ -80,6 +81,7 @@ TEST(SdlBackend, AnOpenWindowSharesTheClipboardWithTheSystem) {
         SDL_free(system);
         SDL_SetClipboardText("from another program");
         EXPECT_EQ(OS()->getClipboardText(), LightweightString<wchar_t>(L"from another program"));
+        EXPECT_FALSE(Glib::dragFilesToOS({L"/tmp/a.mov"})) << "an off-screen window has no drag protocol";
     }
     OS()->setClipboardText(L"in process");
     EXPECT_EQ(OS()->getClipboardText(), LightweightString<wchar_t>(L"in process")) << "the window's clipboard went with it";
