@@ -65,7 +65,8 @@ void Tutorial::Message::write(JSON::Builder& b) const {
 }
 
 int Tutorial::Message::read(const Zn::Ptr<JSON::Element>& e) {
-    text = e->getWString("text");
+    // A message with no text of its own keeps the one its phase gave it.
+    if (LightweightString<wchar_t> own = e->getWString("text"); !own.empty()) text = own;
     if (e->hasString("origin")) {
         origin = CoordinateOriginFromString(e->getString("origin"));
         return 1;

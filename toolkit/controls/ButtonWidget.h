@@ -26,8 +26,10 @@ protected:
     void clicked() override {
         T wanted = nextValue();
         if (!this->getDataAdaptor()) value_ = wanted;
+        const IdStamp me = this->stamp();
         this->requestSetNewDataValue(wanted, kFinalChange);
-        Button::clicked();
+        // A listener of the value may have deleted the button.
+        if (EventHandler::valid(this, me)) Button::clicked();
     }
 
 private:

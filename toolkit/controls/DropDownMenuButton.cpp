@@ -157,10 +157,7 @@ void DropDownMenuButton::handleChoice(int choice) {
     }
     requestSetNewDataValue(choice, kFinalChange);
     if (!EventHandler::valid(this, me)) return;
-    if (!rowCallback.isEmpty()) {
-        fireCallback(this, rowCallback);
-        if (!EventHandler::valid(this, me)) return;
-    }
+    if (!rowCallback.isEmpty() && !fireCallback(this, rowCallback)) return;
     fireCallback(this, getCallback());
 }
 

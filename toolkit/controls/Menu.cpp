@@ -202,8 +202,7 @@ bool Menu::choose(int row) {
 }
 
 void Menu::handleChoice(int row) {
-    WidgetCallback callback = items_[row].callback();
-    fireCallback(this, callback);
+    fireCallback(this, items_[row].callback());
 }
 
 // ---- input ------------------------------------------------------------------

@@ -7,6 +7,7 @@
 #include "glob/GlobManager.h"
 #include "glob/Messaging.h"
 #include "glob/UifStd.h"
+#include "glob/fireCallback.h"
 
 #include <algorithm>
 
@@ -128,13 +129,7 @@ void Message::press(int index) {
     if (closing_) return;
     close();
     if (index < 0 || index >= static_cast<int>(callbacks_.size())) return;
-    const WidgetCallback& cb = callbacks_[index];
-    if (cb.invoke()) return;
-    if (cb.message().empty() || !EventHandler::valid(client_, clientStamp_)) return;
-    if (cb.payload())
-        sendMessageWithData(cb.message(), client_, cb.payload(), this);
-    else
-        sendMessage(cb.message(), client_, this);
+    fireCallback(this, callbacks_[index], EventHandler::valid(client_, clientStamp_) ? client_ : nullptr);
 }
 
 void Message::close() {

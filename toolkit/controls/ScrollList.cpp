@@ -289,7 +289,11 @@ int ScrollList::handleKeyboardEvent(int key) {
     case Keys::Home: moveTo(0, mods); return 1;
     case Keys::End: moveTo(numItems() - 1, mods); return 1;
     case Keys::Return:
-    case Keys::KeypadEnter: activate(current_); return current_ >= 0 ? 1 : 0;
+    case Keys::KeypadEnter: {
+        const int row = current_; // the activation may delete the list
+        activate(row);
+        return row >= 0 ? 1 : 0;
+    }
     case Keys::Space:
         if (multi_ && current_ >= 0) {
             moveTo(current_, Modifiers::Control);

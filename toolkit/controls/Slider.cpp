@@ -65,8 +65,10 @@ void Slider::userChanges(double value, DataChangeType type) {
     double before = value_;
     setPosition(value);
     if (value_ == before && type == kIntermediateChange) return;
+    const IdStamp me = stamp();
     requestSetNewDataValue(value_, type);
-    if (type == kFinalChange) fireCallback(this, callback_);
+    // A listener of the value may have deleted the slider.
+    if (type == kFinalChange && EventHandler::valid(this, me)) fireCallback(this, callback_);
 }
 
 int Slider::react(const Event& e) {

@@ -3,6 +3,7 @@
 #include "draw/CanvasRenderer.h"
 #include "glob/Messaging.h"
 #include "glob/UifStd.h"
+#include "glob/fireCallback.h"
 #include "platform/OS.h"
 
 #include <algorithm>
@@ -353,8 +354,7 @@ void TextBoxBase::requestCallback(const LightweightString<char>& message, EventH
 bool TextBoxBase::fireCallback(eCallbackEvent event) {
     // A copy: the callback may replace its own registration, or delete this box.
     Callback c = callbacks_[event];
-    IdStamp me = stamp();
-    if (c.callback.invoke()) return EventHandler::valid(this, me);
+    if (c.callback.callback()) return ::fireCallback(this, c.callback);
     if (c.callback.message().empty()) return true;
     EventHandler* target = c.target;
     IdStamp targetStamp = c.stamp;

@@ -3,13 +3,17 @@
 #include "Glob.h"
 #include "Messaging.h"
 
-void fireCallback(Glob* sender, const WidgetCallback& callback) {
-    if (callback.invoke()) return;
-    if (callback.message().empty() || !sender) return;
-    Glob* owner = sender->logicalParent();
-    if (!owner) return;
+bool fireCallback(Glob* sender, WidgetCallback callback) {
+    return fireCallback(sender, std::move(callback), sender ? sender->logicalParent() : nullptr);
+}
+
+bool fireCallback(Glob* sender, WidgetCallback callback, EventHandler* recipient) {
+    const IdStamp me = sender ? sender->stamp() : IdStamp();
+    if (callback.invoke()) return !sender || EventHandler::valid(sender, me);
+    if (callback.message().empty() || !sender || !recipient) return true;
     if (callback.payload())
-        sendMessageWithData(callback.message(), owner, callback.payload(), sender);
+        sendMessageWithData(callback.message(), recipient, callback.payload(), sender);
     else
-        sendMessage(callback.message(), owner, sender);
+        sendMessage(callback.message(), recipient, sender);
+    return true;
 }

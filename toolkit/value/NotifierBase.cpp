@@ -4,11 +4,7 @@
 
 #include <mutex>
 
-bool CallbackInvokerBase::typeMatch(int type) const {
-    // The notice of a notifier's end reaches everyone.
-    const auto& types = NotifyMsgTypeDictionary::instance();
-    return type_ == type || type_ == types.allMsgType || type == types.notifierGoneMsgType;
-}
+bool CallbackInvokerBase::typeMatch(int type) const { return type_ == type || type_ == NotifyMsgTypeDictionary::instance().allMsgType; }
 
 void NotifierBase::Core::release(CallbackInvokerBase* record) {
     if (!alive) return; // the record went with the notifier

@@ -135,6 +135,18 @@ TEST_F(TutorialFile, PhaseTextBecomesTheMessageAndMovesIntoItOnSaving) {
     EXPECT_EQ(first->getChild("message")->getWString("text"), L"From the phase");
 }
 
+TEST_F(TutorialFile, AMessageWithoutTextKeepsThePhaseTextThroughASaveAndALoad) {
+    auto t = fromText(R"({"phases":[{"text":"Well done.","message":{"origin":"Centre"}},)"
+                      R"({"text":"Kept","message":{"text":"","target":"Viewer","relativity":"Above"}}]})");
+    auto back = roundTrip(*t);
+    ASSERT_EQ(back->getNumPhases(), 2u);
+    const Tutorial::Message& m = back->getPhase(0)->message;
+    EXPECT_EQ(m.text, L"Well done.");
+    EXPECT_EQ(m.origin, CoordinateOriginFromString("Centre")) << "the message was saved, origin and all";
+    EXPECT_EQ(back->getPhase(1)->message.text, L"Kept") << "an empty text is no text of its own";
+    EXPECT_EQ(back->getPhase(1)->message.target, L"Viewer");
+}
+
 TEST_F(TutorialFile, AnEmptyPhaseIsAnEmptyObjectAndReadsBackUnchanged) {
     Tutorial t;
     t.addPhase(phase());

@@ -96,6 +96,21 @@ TEST_F(Catalogue, ListenersHearCreateSaveAndDeleteWithTheTutorial) {
     m.deleteTutorial(Zn::Ptr<Tutorial>());
 }
 
+TEST_F(Catalogue, AListenerOfOneCodeHearsNothingWhenTheCatalogueGoes) {
+    std::vector<LightweightString<wchar_t>> names;
+    auto named = Zn::Ptr<iCallbackBase<int, NotifyMsg>>(new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([&names](const NotifyMsg& msg) {
+        names.push_back(msg.dataAs<Tutorial>()->getName());
+        return 0;
+    })));
+    Zn::Ptr<Zn::Guard> guard;
+    {
+        TutorialsManager m(folder());
+        guard = m.addListener(named, TutorialsManager::kCreated);
+        m.createTutorial(L"New", L"Audio");
+    }
+    EXPECT_EQ(names, std::vector<LightweightString<wchar_t>>{L"New"});
+}
+
 TEST_F(Catalogue, ClonesAreOutsideTheCatalogueButShareTheFile) {
     TutorialsManager m(folder());
     Heard heard;

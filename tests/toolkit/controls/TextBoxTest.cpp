@@ -290,26 +290,6 @@ TEST_F(TextBoxTest, TabLeavesTheBoxForTheNextStopWhichSelectsAll) {
     EXPECT_EQ(get_kbd_focus(), second) << "and is passed over";
 }
 
-TEST_F(TextBoxTest, ACallbackThatDeletesTheBoxIsSafe) {
-    IdStamp stamp = box->stamp();
-    TextBox* doomed = box;
-    box->requestCallback(WidgetCallback(Zn::Ptr<iCallbackBase<int, NotifyMsg>>(new FunctionCallback<NotifyMsg, int>(
-                             std::function<int(const NotifyMsg&)>([&](const NotifyMsg&) {
-                                 Glob* g = doomed;
-                                 panel->removeWidget(g, true);
-                                 return 1;
-                             })))),
-                         TextBoxBase::kReturnPressed);
-    box->requestCallback("Typed", nullptr, TextBoxBase::kCharTyped);
-    focus(box);
-    TestKit::typeText(L"x");
-    TestKit::pressKey(Keys::Return);
-    EXPECT_FALSE(EventHandler::valid(doomed, stamp));
-    TestKit::typeText(L"y");
-    TestKit::pressKey(Keys::Escape);
-    box = nullptr;
-}
-
 TEST_F(TextBoxTest, RestrictionsAndTheSizeLimitFilterWhatGoesIn) {
     focus(box);
     box->setCharacters(L"0123456789", TextBoxBase::kOnlyCharacters);

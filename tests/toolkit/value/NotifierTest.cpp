@@ -33,16 +33,20 @@ TEST(Notifier, DeliversByTypeInOrderUntilTheGuardGoes) {
     EXPECT_EQ(n.numRegistrations(), 1u);
 }
 
-TEST(Notifier, EveryoneHearsTheEndAndGuardsOutliveTheNotifier) {
-    std::atomic<int> heard{0};
-    Zn::Ptr<Zn::Guard> guard;
+TEST(Notifier, OnlyListenersOfAllTypesHearTheEndAndGuardsOutliveTheNotifier) {
+    std::atomic<int> typed{0}, all{0};
+    std::vector<LightweightString<char>> names;
+    Zn::Ptr<Zn::Guard> typedGuard, allGuard;
     {
         Notifier n;
-        guard = n.addListener(counter(heard), 42);
+        typedGuard = n.addListener(counter(typed), 42);
+        allGuard = n.addListener(counter(all, &names));
     }
-    EXPECT_EQ(heard, 1);
-    guard->release();
-    guard.reset();
+    EXPECT_EQ(typed, 0) << "a listener of one type is told nothing it did not ask for";
+    EXPECT_EQ(all, 1);
+    EXPECT_EQ(names, std::vector<LightweightString<char>>{"notifierGone"});
+    typedGuard->release();
+    typedGuard.reset();
 }
 
 TEST(Notifier, ACallbackMayRegisterAndReleaseDuringDelivery) {
