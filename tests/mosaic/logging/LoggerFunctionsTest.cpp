@@ -73,7 +73,7 @@ TEST_F(LoggerFixture, MakeLoggerCentresForANegativeXAndPlacesOtherwise) {
 }
 
 TEST_F(LoggerFixture, OnlyInitArgsFilenameSavesAtCloseAndTheOwnerHearsOfTheEnd) {
-    setenv("MOSAIC_HOME", dir.c_str(), 1);
+    scratch.setEnv("MOSAIC_HOME", dir);
     LightweightString<wchar_t> logs = getSystemLogDirectory();
     ASSERT_FALSE(fileExists(logs));
 
@@ -111,7 +111,6 @@ TEST_F(LoggerFixture, OnlyInitArgsFilenameSavesAtCloseAndTheOwnerHearsOfTheEnd) 
     for (std::size_t i = 2; i < saved.size(); ++i) EXPECT_TRUE(saved.lines()[i].empty()) << "blank rows are saved as blank lines";
     EXPECT_EQ(listener->heard, std::vector<std::string>{Logger::kDiedMsg});
     delete listener;
-    unsetenv("MOSAIC_HOME");
 }
 
 TEST_F(LoggerFixture, ButtonsLieRightToLeftByDefaultAndKeepTheTableClearOfThem) {
