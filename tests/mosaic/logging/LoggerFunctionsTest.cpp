@@ -69,7 +69,6 @@ TEST_F(LoggerFixture, MakeLoggerCentresForANegativeXAndPlacesOtherwise) {
     EXPECT_NE(placed->gauge(), nullptr);
     EXPECT_EQ(placed->height(), Logger::getInitialHeight(6, 0)) << "the gauge's row is not counted";
     EXPECT_GT(Logger::getInitialHeight(6, Logger::kShowProgress), Logger::getInitialHeight(6, 0));
-    EXPECT_EQ(Logger::getInitialHeight(0, Logger::kShowProgress) < Logger::getInitialHeight(1, Logger::kShowProgress), true);
 }
 
 TEST_F(LoggerFixture, OnlyInitArgsFilenameSavesAtCloseAndTheOwnerHearsOfTheEnd) {
@@ -118,7 +117,6 @@ TEST_F(LoggerFixture, ButtonsLieRightToLeftByDefaultAndKeepTheTableClearOfThem) 
     for (const wchar_t* label : {L"Stop", L"Pause"}) a.buttons.emplace_back(UIString(label), WidgetCallback(), 80, 24);
     auto* l = new Logger(a);
     TestKit::Owned<Logger> owned(l);
-    ASSERT_EQ(l->getChildren().size() >= 3, true);
     std::vector<PushButton*> buttons;
     for (Glob* c : l->getChildren())
         if (auto* b = dynamic_cast<PushButton*>(c)) buttons.push_back(b);
@@ -131,4 +129,5 @@ TEST_F(LoggerFixture, ButtonsLieRightToLeftByDefaultAndKeepTheTableClearOfThem) 
     EXPECT_FALSE(pause->isActive()) << "index 0 is the last button";
     EXPECT_TRUE(stop->isActive());
     l->setButtonActive(7, false, kNoRedraw);
+    EXPECT_TRUE(stop->isActive()) << "an index past the buttons changes none";
 }

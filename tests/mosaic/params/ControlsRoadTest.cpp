@@ -36,6 +36,17 @@ public:
     int shows = 0;
 };
 
+// Notes how often the slider had been shown a value when a change reached the parameter's handlers.
+class SliderShowsWhenHeard : public iValueChangeHandler {
+public:
+    explicit SliderShowsWhenHeard(const int& shows) : shows_(shows) {}
+    void valueChanged(const LightweightString<char>&, const LightweightString<wchar_t>&) override { seen.push_back(shows_); }
+    std::vector<int> seen;
+
+private:
+    const int& shows_;
+};
+
 class ControlsRoad : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -47,8 +58,11 @@ protected:
         slider->setValueRange(0, 10);
         NumericTextBox::InitArgs boxArgs(L"", 80, static_cast<unsigned short>(TextBox::calcHeight()));
         box = panel->createWidget<CountingBox>(boxArgs, Glob::UserBottomLeft(20, 20));
+        steps.setRange(0, 8); // a range holds only for text; this road does not clamp to it
         steps.addValueConstraint(evenOnly);
         steps.addChangeHandler(heard);
+        order = Zn::Ptr<SliderShowsWhenHeard>(new SliderShowsWhenHeard(slider->shows));
+        steps.addChangeHandler(order);
         slider->setDataAdaptor(Zn::Ptr<ValAdaptorBase<double>>(new ValAdaptor<double, int>(&steps.server())));
         box->setDataAdaptor(Zn::Ptr<ValAdaptorBase<LightweightString<wchar_t>>>(
             new ValAdaptor<LightweightString<wchar_t>, int>(&steps.server())));
@@ -65,6 +79,7 @@ protected:
         return DataConvert::convert<int, LightweightString<wchar_t>>(n - n % 2);
     })};
     Zn::Ptr<ParamTestSupport::Recorder> heard{new ParamTestSupport::Recorder};
+    Zn::Ptr<SliderShowsWhenHeard> order;
     StandardPanel* panel = nullptr;
     CountingSlider* slider = nullptr;
     CountingBox* box = nullptr;
@@ -90,6 +105,7 @@ TEST_F(ControlsRoad, ADraggedSliderStoresTheCorrectedWholeNumberAndBothControlsS
     // The echo stops: each of the three stored values reaches the handlers once and
     // each control once, and showing a value asks for no further change.
     EXPECT_EQ(heard->values, (std::vector<LightweightString<wchar_t>>{L"0", L"2", L"2"}));
+    EXPECT_EQ(order->seen, (std::vector<int>{0, 1, 2})) << "the parameter's handlers hear of each change before any control shows it";
     EXPECT_EQ(slider->shows, 3);
     EXPECT_EQ(box->shows, 3);
     EXPECT_FALSE(slider->isDragging());
@@ -112,6 +128,6 @@ TEST_F(ControlsRoad, ANumberTypedInTheBoxMovesTheSlider) {
     TestKit::click(on(6.0));
     TestKit::pressKey(Keys::End);
     TestKit::pump();
-    EXPECT_EQ(steps.getValue(), 10);
+    EXPECT_EQ(steps.getValue(), 10) << "beyond the range: only text is clamped to it";
     EXPECT_EQ(box->getString(), LightweightString<wchar_t>(L"10"));
 }

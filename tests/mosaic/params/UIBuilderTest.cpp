@@ -122,8 +122,11 @@ TEST_F(UIBuilderList, ASliderRowLinesUpAtTheLegendColumnWithItsBoxAtTheRightEdge
     UIBuilder probe(panel, 0);
     probe.calcMaxLegendWidth(params);
     const int W = panel->getUserArea().width(), L = probe.getLegendWidth(), h = rowHeight();
-    EXPECT_EQ(L, DropDownMenuButton::calcWidth(std::vector<UIString>{L"A fairly long legend", L"Mix", L"Name"},
-                                               Glib::FontDesc(getDefaultFontName(0), getDefaultFontSize(), 0)) - 3 * gap());
+    EXPECT_GT(L, Glib::measureText(L"A fairly long legend", Glib::FontDesc(getDefaultFontName(0), getDefaultFontSize(), 0)).x)
+        << "the column fits the widest legend";
+    UIBuilder narrow(panel, 0);
+    narrow.calcMaxLegendWidth(UIBuilder::ParamList{params[1]});
+    EXPECT_LT(narrow.getLegendWidth(), L) << "and narrows with it";
 
     auto* host = dynamic_cast<SliderParamHost*>(set->getWidget("gain"));
     auto* titled = dynamic_cast<TitledGlob<Slider>*>(host->titled);
@@ -265,12 +268,13 @@ TEST_F(UIBuilderList, ARowMadeAloneTakesTheWidthGivenAndMeasuresItsOwnLegend) {
     Zn::Ptr<iParam> colour = make<ColourParam>(L"Tint", "tint", L"", NormalisedRGB{});
     EXPECT_EQ(UIBuilder::createWidget(colour, nullptr, 300, 0, Glob::UserTopLeft(0, 0), WidgetSurround()), nullptr);
 
-    // A panel of only actions lines its legends up on an empty list.
+    // The legends of actions take no part in the column.
     UIBuilder::ParamList actions;
     actions.push_back(resetAction());
-    UIBuilder onlyActions(panel, 0);
+    UIBuilder onlyActions(panel, 0), none(panel, 0);
     onlyActions.calcMaxLegendWidth(actions);
-    EXPECT_EQ(onlyActions.getLegendWidth(), std::max(0, DropDownMenuButton::calcWidth(std::vector<UIString>{}, Glib::FontDesc(getDefaultFontName(0), getDefaultFontSize(), 0)) - 3 * gap()));
+    none.calcMaxLegendWidth(UIBuilder::ParamList{});
+    EXPECT_EQ(onlyActions.getLegendWidth(), none.getLegendWidth());
 }
 
 TEST_F(UIBuilderList, AChoiceRowShowsTheEntryOfItsValueAndEntryZeroForAValueOfNoEntry) {
