@@ -18,10 +18,7 @@ public:
 };
 GlobKindRegistration clearKind("FrameTestClear", [](const GlobCreationInfo& info) -> Glob* { return new Clear(info); });
 
-class Frame : public ::testing::Test {
-protected:
-    void TearDown() override { TestKit::reset(); }
-};
+class Frame : public TestKit::ScreenTest {};
 
 StandardPanel::InitArgs wrapperArgs(const char* type, int w, int h) {
     StandardPanel::InitArgs a(static_cast<unsigned short>(w), static_cast<unsigned short>(h));

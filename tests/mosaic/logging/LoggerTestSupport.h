@@ -48,9 +48,7 @@ protected:
         a.taskLog = log;
         a.title = UIString(L"Render log");
         a.palette = UifStd::instance().getColourScheme();
-        auto* l = new Logger(a);
-        l->setupRootPos({30, 30});
-        GlobManager::instance().realize(l);
+        auto* l = TestKit::realize(new Logger(a), {30, 30});
         TestKit::pump();
         return l;
     }

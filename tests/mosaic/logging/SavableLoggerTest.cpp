@@ -45,7 +45,6 @@ TEST_F(LoggerFixture, ShowLogOpensASavableLoggerThatWritesTheWholeLogAsHTML) {
     ASSERT_NE(save, nullptr);
     EXPECT_EQ(save->getLabel().getString(), ellipsisResourceStrW(307));
     TestKit::click(TestKit::centreOf(save));
-    TestKit::pump();
     FileBrowser* chooser = panel->chooser();
     ASSERT_NE(chooser, nullptr) << "the save button asks for a folder";
     panel->chooseFolder();

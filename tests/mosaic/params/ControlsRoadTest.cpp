@@ -47,12 +47,10 @@ private:
     const int& shows_;
 };
 
-class ControlsRoad : public ::testing::Test {
+class ControlsRoad : public TestKit::ScreenTest {
 protected:
     void SetUp() override {
-        panel = new StandardPanel(StandardPanel::InitArgs(400, 120));
-        panel->setupRootPos({100, 100});
-        GlobManager::instance().realize(panel);
+        panel = TestKit::realize(new StandardPanel(StandardPanel::InitArgs(400, 120)));
         Slider::InitArgs sliderArgs(Colour(0.2, 0.5, 0.9), 300);
         slider = panel->createWidget<CountingSlider>(sliderArgs, Glob::UserBottomLeft(20, 70));
         slider->setValueRange(0, 10);
@@ -69,7 +67,6 @@ protected:
         TestKit::pump();
         box->shows = 0; // binding shows the box the stored value once
     }
-    void TearDown() override { TestKit::reset(); }
 
     XY<int> on(double value) const { return TestKit::screenPointOf(slider, {slider->xOf(value), slider->height() / 2}); }
 
@@ -92,7 +89,6 @@ TEST_F(ControlsRoad, ADraggedSliderStoresTheCorrectedWholeNumberAndBothControlsS
     TestKit::mouseDown(on(1.2));
     TestKit::mouseMove(on(3.4));
     TestKit::mouseUp(on(3.4));
-    TestKit::pump();
 
     // One request per mouse event, whole numbers by truncation: the press asks
     // for 1, the move for 3, and the release for what the slider then shows.
@@ -116,7 +112,6 @@ TEST_F(ControlsRoad, ANumberTypedInTheBoxMovesTheSlider) {
     TestKit::pressKey('a', Modifiers::Control);
     TestKit::typeText(L"7");
     TestKit::pressKey(Keys::Return);
-    TestKit::pump();
 
     EXPECT_EQ(steps.getValue(), 6);
     EXPECT_DOUBLE_EQ(slider->getPosition(), 6.0);
@@ -127,7 +122,6 @@ TEST_F(ControlsRoad, ANumberTypedInTheBoxMovesTheSlider) {
     // A key on the slider goes the same road back to the box.
     TestKit::click(on(6.0));
     TestKit::pressKey(Keys::End);
-    TestKit::pump();
     EXPECT_EQ(steps.getValue(), 10) << "beyond the range: only text is clamped to it";
     EXPECT_EQ(box->getString(), LightweightString<wchar_t>(L"10"));
 }

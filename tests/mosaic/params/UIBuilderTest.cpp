@@ -47,9 +47,7 @@ Zn::Ptr<ActionParam> resetAction() {
 class UIBuilderList : public ::testing::Test {
 protected:
     void SetUp() override {
-        panel = new StandardPanel(StandardPanel::InitArgs(500, 400));
-        panel->setupRootPos({100, 100});
-        GlobManager::instance().realize(panel);
+        panel = TestKit::realize(new StandardPanel(StandardPanel::InitArgs(500, 400)));
     }
     void TearDown() override {
         UIBuilder::setActionParamsOnMenu(false);
@@ -94,7 +92,6 @@ TEST_F(UIBuilderList, EachKnownParameterGetsItsKindOfRowOnACloneInRowOrder) {
     auto* loop = dynamic_cast<Checkbox*>(set->getWidget("loop"));
     EXPECT_TRUE(loop->getState());
     TestKit::click(TestKit::centreOf(loop));
-    TestKit::pump();
     EXPECT_EQ(set->params()[1]->getValueAsString(), L"false");
     EXPECT_EQ(params[1]->getValueAsString(), L"true");
 
@@ -191,7 +188,6 @@ TEST_F(UIBuilderList, DependenciesOfTheCallersParametersActOnTheClones) {
     set->addListener(listenerInto(heard));
 
     TestKit::click(TestKit::centreOf(set->getWidget("advanced")));
-    TestKit::pump();
     EXPECT_TRUE(set->getWidget("detail")->isActive());
     EXPECT_TRUE(set->getWidget("high")->isVisible());
     EXPECT_EQ(heard, (std::vector<std::string>{"advanced"}));
@@ -219,7 +215,6 @@ TEST_F(UIBuilderList, AResetActionChangesEverythingAndIsToldOnce) {
     std::vector<std::string> heard;
     set->addListener(listenerInto(heard));
     TestKit::click(TestKit::centreOf(reset->control()));
-    TestKit::pump();
     EXPECT_EQ(heard, (std::vector<std::string>{"+payload"})) << "one call, with the action's message";
     EXPECT_EQ(set->params()[0]->getValueAsString(), L"false");
     EXPECT_FALSE(dynamic_cast<Checkbox*>(set->getWidget("loop"))->getState()) << "the widgets follow";
@@ -299,9 +294,7 @@ TEST_F(UIBuilderList, AChoiceRowShowsTheEntryOfItsValueAndEntryZeroForAValueOfNo
 }
 
 TEST_F(UIBuilderList, InAScrollerTheRowsAreStackedByIt) {
-    auto* scroller = new VerticalScrollingBase(VerticalScrollingBase::InitArgs(400, 120));
-    scroller->setupRootPos({700, 100});
-    GlobManager::instance().realize(scroller);
+    auto* scroller = TestKit::realize(new VerticalScrollingBase(VerticalScrollingBase::InitArgs(400, 120)), {700, 100});
     UIBuilder::ParamList params;
     for (int i = 0; i < 8; ++i) params.push_back(make<BoolParam>(WString(L"Option"), LightweightString<char>(("o" + std::to_string(i)).c_str()), L"", false));
     auto set = UIBuilder::build(params, scroller);
