@@ -12,8 +12,7 @@ namespace {
 
 StandardPanel* panelAt(XY<int> at) {
     StandardPanel::InitArgs a(80, 60);
-    auto* p = TestKit::realize(new StandardPanel(a), at);
-    return p;
+    return TestKit::realize(new StandardPanel(a), at);
 }
 
 } // namespace
