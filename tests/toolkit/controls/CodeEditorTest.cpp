@@ -9,14 +9,9 @@ using namespace TextControlKit;
 
 namespace {
 
-class CodeEditorTest : public ::testing::Test {
+class CodeEditorTest : public TextControlTest {
 protected:
     void SetUp() override { panel = makePanel(520, 420); }
-    void TearDown() override {
-        delete panel;
-        TestKit::reset();
-        OS()->setClipboardText({});
-    }
     CodeEditor* addEditor(const LightweightString<wchar_t>& text, int w = 420, int h = 300) {
         CodeEditor::InitArgs args(text, static_cast<unsigned short>(w), static_cast<unsigned short>(h));
         return panel->createWidget<CodeEditor>(args, Glob::BottomLeft(10, 10));
@@ -54,8 +49,6 @@ protected:
                 }
         return span;
     }
-
-    RecordingPanel* panel = nullptr;
 };
 
 LightweightString<wchar_t> numberedLines(int n) {

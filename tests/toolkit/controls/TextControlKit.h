@@ -37,6 +37,17 @@ inline RecordingPanel* makePanel(int w = 400, int h = 200, XY<int> at = {100, 10
     return TestKit::realize(new RecordingPanel(args), at);
 }
 
+// A fixture with a panel for the control under test, which leaves the screen and
+// the clipboard empty for the next test.
+class TextControlTest : public TestKit::ScreenTest {
+protected:
+    void TearDown() override {
+        TestKit::reset();
+        OS()->setClipboardText({});
+    }
+    RecordingPanel* panel = nullptr;
+};
+
 // How many pixels of `box` (glob coordinates) are within `tolerance` of `colour`.
 inline int countPixels(const Glob* g, const BoxInt& box, const Colour& colour, int tolerance = 0) {
     TestKit::pump();
