@@ -5,14 +5,20 @@ set -euo pipefail
 build=$1 src=$(cd "$(dirname "$0")" && pwd)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
+# Runs a consumer with its settings, data and logs in the scratch folder, never the user's.
+isolated() {
+  mkdir -p "$work/home/mosaic"
+  HOME=$work/home MOSAIC_HOME=$work/home/mosaic XDG_CONFIG_HOME=$work/home/config \
+    XDG_DATA_HOME=$work/home/data XDG_STATE_HOME=$work/home/state "$@"
+}
 cmake --install "$build" --prefix "$work/prefix" >/dev/null
 mkdir "$work/consumer"
 cp "$src/CMakeLists.txt.in" "$work/consumer/CMakeLists.txt"
 cp "$src/main.cpp" "$work/consumer/main.cpp"
 cmake -S "$work/consumer" -B "$work/consumer/build" -DCMAKE_PREFIX_PATH="$work/prefix" >/dev/null
 cmake --build "$work/consumer/build" >/dev/null
-"$work/consumer/build/consumer"
+isolated "$work/consumer/build/consumer"
 flags=$(PKG_CONFIG_PATH="$work/prefix/lib/pkgconfig" pkg-config --cflags --libs mosaic)
 # shellcheck disable=SC2086
 c++ -std=c++20 "$src/main.cpp" -o "$work/pc-consumer" $flags -Wl,-rpath,"$work/prefix/lib"
-"$work/pc-consumer"
+isolated "$work/pc-consumer"

@@ -5,6 +5,10 @@ set -u
 bin=$1
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
+# The program's settings, data and logs go to the scratch folder, never the user's.
+export HOME=$work/home MOSAIC_HOME=$work/home/mosaic XDG_CONFIG_HOME=$work/home/config \
+       XDG_DATA_HOME=$work/home/data XDG_STATE_HOME=$work/home/state
+mkdir -p "$MOSAIC_HOME"
 unset DISPLAY
 fail() { echo "FAIL: $*"; exit 1; }
 

@@ -52,6 +52,10 @@ start_display() {
   need_tools
   work=$(mktemp -d)
   trap cleanup EXIT
+  # The gallery's settings, data and logs go to the scratch folder, never the user's.
+  export HOME=$work/home MOSAIC_HOME=$work/home/mosaic XDG_CONFIG_HOME=$work/home/config \
+         XDG_DATA_HOME=$work/home/data XDG_STATE_HOME=$work/home/state
+  mkdir -p "$MOSAIC_HOME"
   # The server picks a free display number and writes it once it takes clients,
   # so that tests running at once never share or wait for a display. Without
   # -noreset it resets whenever its last client leaves and refuses connections

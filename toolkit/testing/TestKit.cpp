@@ -82,6 +82,11 @@ void pressKey(int keyCode, unsigned m) {
 
 void typeText(const LightweightString<wchar_t>& text) { send(Event::text(text)); }
 
+void realizeAt(Glob* g, XY<int> at) {
+    g->setupRootPos(at);
+    gm().realize(g);
+}
+
 XY<int> screenPointOf(const Glob* g, XY<int> local) { return g->screenPos() + local; }
 
 XY<int> centreOf(const Glob* g) { return screenPointOf(g, {g->width() / 2, g->height() / 2}); }
@@ -115,11 +120,23 @@ LightweightString<char> saveScreen(const char* name) {
     return path;
 }
 
+bool similar(std::uint32_t a, std::uint32_t b, int tolerance) {
+    const std::uint32_t opaque = 0xFF000000u;
+    return near(a | opaque, b | opaque, tolerance);
+}
+
 int countPixels(const Glob* g, const BoxInt& box, const Colour& colour, int tolerance) {
-    const std::uint32_t opaque = 0xFF000000u, want = argb(colour) | opaque;
+    const std::uint32_t want = argb(colour);
     int n = 0;
     for (int y = box.y1; y < box.y2; ++y)
-        for (int x = box.x1; x < box.x2; ++x) n += near(globPixel(g, x, y) | opaque, want, tolerance);
+        for (int x = box.x1; x < box.x2; ++x) n += similar(globPixel(g, x, y), want, tolerance);
+    return n;
+}
+
+int inkPixels(const Glob* g, const BoxInt& box, std::uint32_t background, int tolerance) {
+    int n = 0;
+    for (int y = box.y1; y < box.y2; ++y)
+        for (int x = box.x1; x < box.x2; ++x) n += !similar(globPixel(g, x, y), background, tolerance);
     return n;
 }
 

@@ -26,6 +26,14 @@ void wheel(XY<int> screen, int delta);
 void pressKey(int keyCode, unsigned modifiers = 0);
 void typeText(const LightweightString<wchar_t>& text);
 
+// Puts a new top-level glob on the screen with its bottom left at `at`; returns it.
+void realizeAt(Glob* g, XY<int> at);
+template <class T>
+T* realize(T* g, XY<int> at = {100, 100}) {
+    realizeAt(g, at);
+    return g;
+}
+
 // The screen point of a point in a glob's own coordinates.
 XY<int> screenPointOf(const Glob* g, XY<int> local);
 // The centre of a glob on the screen.
@@ -37,9 +45,14 @@ std::uint32_t globPixel(const Glob* g, int x, int y);
 // The colour as 0xAARRGGBB, as a canvas stores it.
 std::uint32_t argb(const Colour& c);
 
+// True when red, green and blue of the two 0xAARRGGBB values each differ by at most
+// `tolerance`; alpha is left aside. Unlike pixelNear it writes nothing on a mismatch.
+bool similar(std::uint32_t a, std::uint32_t b, int tolerance);
 // How many pixels of `box` (the glob's coordinates) have red, green and blue each
 // within `tolerance` of the colour's; alpha is left aside.
 int countPixels(const Glob* g, const BoxInt& box, const Colour& colour, int tolerance = 0);
+// How many pixels of `box` differ from `background` by more than `tolerance`: ink.
+int inkPixels(const Glob* g, const BoxInt& box, std::uint32_t background, int tolerance = 40);
 
 // Passes when the glob's pixel is within `tolerance` per channel of `expected`;
 // on failure the screen and the glob's canvas are written out as PNG files.
@@ -47,6 +60,12 @@ int countPixels(const Glob* g, const BoxInt& box, const Colour& colour, int tole
 ::testing::AssertionResult screenPixelNear(int x, int y, std::uint32_t expected, int tolerance = 0);
 // Writes the screen to NAME.png in the output folder; returns the path.
 LightweightString<char> saveScreen(const char* name);
+
+// A fixture that leaves the screen empty for the next test.
+class ScreenTest : public ::testing::Test {
+protected:
+    void TearDown() override { reset(); }
+};
 
 // Owns a top-level glob for the length of a test.
 template <class T>

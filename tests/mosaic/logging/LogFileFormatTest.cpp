@@ -34,13 +34,12 @@ Zn::Ptr<iTaskLog> everyKind() {
 } // namespace
 
 TEST_F(LoggerFixture, SavedTextAndHTMLOfEveryKindMatchTheExpectedFiles) {
-    setenv("MOSAIC_HOME", dir.c_str(), 1);
+    scratch.setEnv("MOSAIC_HOME", dir);
     Zn::Ptr<iTaskLog> log = everyKind();
     Logger::InitArgs a(0, 300, Logger::kProgressOnly);
     a.taskLog = log;
     a.filename = L"every-kind.txt";
     delete new Logger(a);
-    unsetenv("MOSAIC_HOME");
     EXPECT_EQ(slurp(dir / "logs" / "every-kind.txt"), slurp(MOSAIC_TEST_DATA "/logging/every-kind.txt"));
 
     std::vector<LB::Item> items;
@@ -56,13 +55,12 @@ TEST_F(LoggerFixture, ASaveWhereNothingCanBeWrittenLeavesNoFileBehind) {
     EXPECT_FALSE(LogFileFormat::saveAsHTML(items, path("blocker/TaskLog.html")));
     EXPECT_FALSE(LogFileFormat::saveAsText({LoggedItem(L"x", Colour(), Colour(), {}, LB::otNormal)}, path("blocker/log.txt")));
 
-    setenv("MOSAIC_HOME", (dir / "blocker").c_str(), 1);
+    scratch.setEnv("MOSAIC_HOME", dir / "blocker");
     Logger::InitArgs a(2, 300, 0);
     a.filename = L"lost.txt";
     auto* l = new Logger(a);
     put(l, L"text that cannot be kept");
     delete l;
-    unsetenv("MOSAIC_HOME");
 
     std::vector<std::string> left;
     for (const auto& entry : std::filesystem::directory_iterator(dir)) left.push_back(entry.path().filename().string());

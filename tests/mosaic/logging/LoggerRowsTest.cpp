@@ -30,8 +30,6 @@ TEST_F(LoggerFixture, ItemsSplitAtLineFeedsAndALogNeverStartsWithBlankRows) {
     put(l, L"\nd");
     put(l, L"");
     EXPECT_EQ(texts(l), (std::vector<std::wstring>{L"a", L"", L"b", L"c", L"d", L""})) << "a line feed at either end makes no row";
-    EXPECT_GE(l->getSize(), l->rowCount()) << "blank rows may follow the filled ones";
-    EXPECT_EQ(l->rows().capacity() >= 256, true) << "rows grow 256 at a time";
 }
 
 TEST_F(LoggerFixture, HeadingsGetOneBlankRowBeforeThemAndResizeTheRowsAfterThem) {
@@ -195,6 +193,7 @@ TEST_F(LoggerFixture, APanelHoldsAtMost65535RowsAndDropsTheRest) {
     EXPECT_EQ(l->rows()[65'534].text, L"65534");
     l->table()->revealRow(65'534, false);
     TestKit::pump();
+    EXPECT_EQ(l->table()->getLastVisibleRow(), 65'534) << "the last row can be shown";
 }
 
 TEST_F(LoggerFixture, TheGaugeSitsOneIndentInsideThePanelWithClearSpaceBelowTheTable) {

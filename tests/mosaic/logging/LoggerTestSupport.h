@@ -14,11 +14,11 @@
 #include "tasks/TaskLog.h"
 #include "testing/TestKit.h"
 
-#include <cstdlib>
+#include "../../toolkit/platform/TempFolder.h"
+
 #include <filesystem>
 #include <fstream>
 #include <string>
-#include <unistd.h>
 
 // The whole of a file, as bytes.
 inline std::string slurp(const std::filesystem::path& p) {
@@ -31,9 +31,6 @@ inline std::string slurp(const std::filesystem::path& p) {
 class LoggerFixture : public ::testing::Test {
 protected:
     void SetUp() override {
-        static int n = 0;
-        dir = std::filesystem::temp_directory_path() / ("mosaic-logger-" + std::to_string(getpid()) + "-" + std::to_string(++n));
-        std::filesystem::create_directories(dir);
         row = UifStd::instance().getRowHeight();
         OS()->setLauncher([this](const LightweightString<char>& program, const std::vector<LightweightString<char>>& args) {
             launched.push_back(program.str() + " " + (args.empty() ? std::string() : args.front().str()));
@@ -44,7 +41,6 @@ protected:
         OS()->setLauncher({});
         Clock::clearTestTime();
         TestKit::reset();
-        std::filesystem::remove_all(dir);
     }
 
     Logger* make(unsigned flags = 0, const Zn::Ptr<iTaskLog>& log = {}, unsigned short rows = 8, unsigned short width = 420) {
@@ -52,9 +48,7 @@ protected:
         a.taskLog = log;
         a.title = UIString(L"Render log");
         a.palette = UifStd::instance().getColourScheme();
-        auto* l = new Logger(a);
-        l->setupRootPos({30, 30});
-        GlobManager::instance().realize(l);
+        auto* l = TestKit::realize(new Logger(a), {30, 30});
         TestKit::pump();
         return l;
     }
@@ -75,7 +69,8 @@ protected:
         return TestKit::screenPointOf(l->table(), {b.x1 + dx, (b.y1 + b.y2) / 2});
     }
 
-    std::filesystem::path dir;
+    TempFolder scratch;
+    std::filesystem::path dir{scratch.str()};
     std::vector<std::string> launched;
     int row = 0;
 };

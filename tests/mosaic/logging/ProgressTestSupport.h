@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 
 // Progress displays under a test clock. Each test starts at a time of its own, far
 // from the others, so that what one display remembers of the last update never
@@ -20,11 +19,5 @@ protected:
     void TearDown() override {
         TestKit::reset();
         Clock::clearTestTime();
-    }
-
-    static bool similar(std::uint32_t a, std::uint32_t b, int tolerance) {
-        for (int s = 0; s < 24; s += 8)
-            if (std::abs(int((a >> s) & 255) - int((b >> s) & 255)) > tolerance) return false;
-        return true;
     }
 };

@@ -54,7 +54,7 @@ TEST_F(RenderProgressPanels, ThePreviewsPixelsArePaintedInTheImageAreaInsideItsF
     const std::uint32_t frame = TestKit::argb(scale(p->getCol(), 0.6));
     EXPECT_TRUE(TestKit::pixelNear(p, area.x1 - 1, (area.y1 + area.y2) / 2, frame, 1)) << "the frame is one pixel outside";
     EXPECT_TRUE(TestKit::pixelNear(p, (area.x1 + area.x2) / 2, area.y2, frame, 1));
-    EXPECT_FALSE(similar(panel, kRed, 40) || similar(panel, kBlue, 40));
+    EXPECT_FALSE(TestKit::similar(panel, kRed, 40) || TestKit::similar(panel, kBlue, 40));
 
     p->handleProgressUpdate(ProgressSnapshot(0.0f, L"", halves<HostImage>(32, 18)));
     TestKit::pump();

@@ -9,16 +9,6 @@ using LB = LoggerBase;
 
 namespace {
 
-// Points HOME, the user's folder, at a scratch folder for one test.
-class HomeAt {
-public:
-    explicit HomeAt(const std::filesystem::path& p) : old_(std::getenv("HOME") ? std::getenv("HOME") : "") { setenv("HOME", p.c_str(), 1); }
-    ~HomeAt() { setenv("HOME", old_.c_str(), 1); }
-
-private:
-    std::string old_;
-};
-
 std::vector<Logger*> loggersOnScreen() {
     std::vector<Logger*> out;
     for (Glob* g : GlobManager::instance().roots())
@@ -29,7 +19,7 @@ std::vector<Logger*> loggersOnScreen() {
 } // namespace
 
 TEST_F(LoggerFixture, ShowLogOpensASavableLoggerThatWritesTheWholeLogAsHTML) {
-    HomeAt home(dir);
+    scratch.setEnv("HOME", dir);
     EXPECT_TRUE(CommandRegistrar::exists("ShowLog"));
     std::size_t before = GlobManager::instance().roots().size();
     CommandRegistrar::invoke("ShowLog", {});
@@ -55,7 +45,6 @@ TEST_F(LoggerFixture, ShowLogOpensASavableLoggerThatWritesTheWholeLogAsHTML) {
     ASSERT_NE(save, nullptr);
     EXPECT_EQ(save->getLabel().getString(), ellipsisResourceStrW(307));
     TestKit::click(TestKit::centreOf(save));
-    TestKit::pump();
     FileBrowser* chooser = panel->chooser();
     ASSERT_NE(chooser, nullptr) << "the save button asks for a folder";
     panel->chooseFolder();
@@ -73,7 +62,7 @@ TEST_F(LoggerFixture, ShowLogOpensASavableLoggerThatWritesTheWholeLogAsHTML) {
 }
 
 TEST_F(LoggerFixture, SaveToFileWritesEveryRowAsTextAndShowsALinkToTheFile) {
-    HomeAt home(dir);
+    scratch.setEnv("HOME", dir);
     Logger* l = make(0, {}, 4, 300);
     put(l, L"one\ntwo");
     put(l, L"/media/clip.mov", LB::otHyperLink);

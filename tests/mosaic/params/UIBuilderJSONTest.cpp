@@ -45,16 +45,12 @@ const wchar_t* everything = LR"({"params": [
   {"type": "label", "name": "help", "legend": "Some <b>help</b> for the export."}
 ]})";
 
-class UIBuilderJSON : public ::testing::Test {
+class UIBuilderJSON : public TestKit::ScreenTest {
 protected:
     void SetUp() override { panel = makePanel(300 + 11 * rowStep()); }
-    void TearDown() override { TestKit::reset(); }
 
     StandardPanel* makePanel(int height) {
-        auto* p = new StandardPanel(StandardPanel::InitArgs(520, static_cast<unsigned short>(height)));
-        p->setupRootPos({60, 60});
-        GlobManager::instance().realize(p);
-        return p;
+        return TestKit::realize(new StandardPanel(StandardPanel::InitArgs(520, static_cast<unsigned short>(height))), {60, 60});
     }
     Zn::Ptr<UIBuilder::Params> build(const wchar_t* text, StandardPanel* into = nullptr) {
         auto set = UIBuilder::buildFromJSON(LightweightString<wchar_t>(text), into ? into : panel);
@@ -72,7 +68,6 @@ protected:
         TestKit::pressKey('a', Modifiers::Control);
         TestKit::typeText(text);
         TestKit::pressKey(Keys::Return);
-        TestKit::pump();
     }
     static void choose(TitleMenuButton* row, int entry) {
         TestKit::click(TestKit::centreOf(row->getBtn()));
@@ -80,7 +75,6 @@ protected:
         ASSERT_NE(menu, nullptr);
         BoxInt b = menu->rowBox(entry);
         TestKit::click(TestKit::screenPointOf(menu, {(b.x1 + b.x2) / 2, (b.y1 + b.y2) / 2}));
-        TestKit::pump();
     }
 
     StandardPanel* panel = nullptr;
@@ -112,7 +106,6 @@ TEST_F(UIBuilderJSON, AWholeDescriptionBuildsAndFollowsTheMouseAndKeyboard) {
     set->addListener(listenerInto(heard));
 
     TestKit::click(TestKit::centreOf(set->getWidget("advanced")));
-    TestKit::pump();
     EXPECT_EQ(heard, (std::vector<std::string>{"advanced"}));
     EXPECT_TRUE(sliderOf(set->getWidget("gain"))->isActive());
     EXPECT_TRUE(boxOf(set->getWidget("gain"))->isActive());
@@ -306,9 +299,7 @@ TEST_F(UIBuilderJSON, AnAdvancingTextSendsThePanelsMainMessageOnReturn) {
         }
         int doIts = 0;
     };
-    auto* host = new Host(StandardPanel::InitArgs(400, 100));
-    host->setupRootPos({700, 500});
-    GlobManager::instance().realize(host);
+    auto* host = TestKit::realize(new Host(StandardPanel::InitArgs(400, 100)), {700, 500});
     auto set = build(LR"({"p": [{"type": "text", "name": "who", "legend": "Who", "advance": true}]})", host);
     typeInto(dynamic_cast<TitleTextBox*>(set->getWidget("who"))->getTextBox(), L"me");
     EXPECT_EQ(host->doIts, 1);

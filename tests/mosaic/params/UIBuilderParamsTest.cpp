@@ -52,10 +52,7 @@ Zn::Ptr<ActionParam> actionDoing(std::function<bool(const ActionParam::CallbackD
     return action;
 }
 
-class UIBuilderParams : public ::testing::Test {
-protected:
-    void TearDown() override { TestKit::reset(); }
-};
+class UIBuilderParams : public TestKit::ScreenTest {};
 
 } // namespace
 

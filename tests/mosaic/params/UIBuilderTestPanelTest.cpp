@@ -11,9 +11,8 @@
 
 namespace {
 
-class UIBuilderTestPanels : public ::testing::Test {
+class UIBuilderTestPanels : public TestKit::ScreenTest {
 protected:
-    void TearDown() override { TestKit::reset(); }
     template <class T>
     static std::vector<T*> roots() {
         std::vector<T*> found;
@@ -42,7 +41,6 @@ TEST_F(UIBuilderTestPanels, BuildShowsWhatIsTypedAndReplacesTheLastPanel) {
 
     panel->editor()->setText(L"{\"p\": [{\"type\": \"bool\", \"name\": \"a\", \"legend\": \"A\"}, {\"type\": \"text\", \"name\": \"b\"}]}");
     TestKit::click(TestKit::centreOf(build));
-    TestKit::pump();
     HostPanel* first = panel->host();
     ASSERT_NE(first, nullptr);
     EXPECT_EQ(first->params()->params().size(), 2u);
@@ -51,13 +49,11 @@ TEST_F(UIBuilderTestPanels, BuildShowsWhatIsTypedAndReplacesTheLastPanel) {
 
     panel->editor()->setText(L"{\"p\": [{\"type\": \"int\", \"name\": \"n\"}]}");
     TestKit::click(TestKit::centreOf(build));
-    TestKit::pump();
     ASSERT_EQ(roots<HostPanel>().size(), 1u) << "the panel built before is gone";
     EXPECT_EQ(panel->host()->params()->params().size(), 1u);
 
     panel->editor()->setText(L"{\"p\": [ not json");
     TestKit::click(TestKit::centreOf(build));
-    TestKit::pump();
     EXPECT_TRUE(roots<HostPanel>().empty()) << "text that does not parse builds nothing";
 }
 

@@ -1,6 +1,5 @@
 list(APPEND MOSAIC_TEST_SOURCES
   mosaic/params/ParamTest.cpp
-  mosaic/params/ValueChangeRoadTest.cpp
   mosaic/params/ControlsRoadTest.cpp
   mosaic/params/TitledRowsTest.cpp
   mosaic/params/ParamConstraintsTest.cpp

@@ -129,7 +129,12 @@ TEST_F(Catalogue, ClonesAreOutsideTheCatalogueButShareTheFile) {
     EXPECT_EQ(Tutorial(original->getPath()).getName(), L"Overwritten");
 }
 
-TEST(TutorialsManagerInstance, LivesInTheTutorialsFolderOfTheDataFolder) {
-    EXPECT_EQ(stripPath(TutorialsManager::getLocation()), L"Tutorials");
-    EXPECT_EQ(&TutorialsManager::instance(), &TutorialsManager::instance());
+TEST(TutorialsManagerInstance, ListsTheTutorialsFolderOfTheDataFolder) {
+    // The data folder is the test program's own (see TestKit::TestHome).
+    fs::path tutorials = fs::path(toUTF8(OS()->getApplicationDataFolder()).str()) / "Tutorials";
+    EXPECT_EQ(TutorialsManager::getLocation(), fromUTF8(tutorials.string().c_str()));
+    fs::create_directories(tutorials);
+    fs::copy(MOSAIC_TEST_DATA "/tutorials/T00-00-basics-trim.ZnTutorial", tutorials);
+    ASSERT_EQ(TutorialsManager::instance().tutorials().size(), 1u);
+    EXPECT_EQ(TutorialsManager::instance().tutorials()[0]->getID(), L"T00-00-basics-trim.ZnTutorial");
 }

@@ -25,7 +25,6 @@ TEST_F(Checkboxes, AClickTogglesTheTickAndTellsTheOwner) {
     Checkbox* c = box();
     EXPECT_EQ(tickPixels(c), 0);
     TestKit::click(TestKit::screenPointOf(c, {5, c->height() / 2}));
-    TestKit::pump();
     EXPECT_TRUE(c->getState());
     EXPECT_GT(tickPixels(c), 8);
     EXPECT_EQ(host->messages, std::vector<std::string>{"toggled"});
@@ -35,7 +34,6 @@ TEST_F(Checkboxes, AClickTogglesTheTickAndTellsTheOwner) {
     EXPECT_EQ(tickPixels(c), 0);
     c->claimKbdFocus();
     TestKit::pressKey(Keys::Space);
-    TestKit::pump();
     EXPECT_TRUE(c->getState());
     EXPECT_EQ(host->messages.size(), 3u);
 }
@@ -47,7 +45,6 @@ TEST_F(Checkboxes, BoundToAValueItShowsAndChangesTheServer) {
     c->getDataAdaptor()->forceWidgetUpdate(kRedraw);
     EXPECT_TRUE(c->getState());
     TestKit::click(TestKit::centreOf(c));
-    TestKit::pump();
     EXPECT_FALSE(loop.value());
     EXPECT_FALSE(c->getState());
     loop = true;
@@ -65,7 +62,6 @@ TEST_F(Checkboxes, AManagerThatRefusesKeepsTheBoxAsItWas) {
     Checkbox* c = box(false);
     c->setDataAdaptor(Zn::Ptr<ValAdaptorBase<bool>>(new ValAdaptor<bool, bool>(&locked)));
     TestKit::click(TestKit::centreOf(c));
-    TestKit::pump();
     EXPECT_FALSE(locked.value());
     EXPECT_FALSE(c->getState());
     locked.setManager(nullptr);
@@ -76,7 +72,6 @@ TEST_F(Checkboxes, AnInactiveBoxIgnoresTheUser) {
     c->setEnabledState(false);
     EXPECT_FALSE(c->getEnabledState());
     TestKit::click(TestKit::centreOf(c));
-    TestKit::pump();
     EXPECT_TRUE(c->getState());
     EXPECT_TRUE(host->messages.empty());
     EXPECT_EQ(tickPixels(c), 0) << "an inactive tick is drawn dimmed";

@@ -9,14 +9,9 @@ using namespace TextControlKit;
 
 namespace {
 
-class CodeEditorTest : public ::testing::Test {
+class CodeEditorTest : public TextControlTest {
 protected:
     void SetUp() override { panel = makePanel(520, 420); }
-    void TearDown() override {
-        delete panel;
-        TestKit::reset();
-        OS()->setClipboardText({});
-    }
     CodeEditor* addEditor(const LightweightString<wchar_t>& text, int w = 420, int h = 300) {
         CodeEditor::InitArgs args(text, static_cast<unsigned short>(w), static_cast<unsigned short>(h));
         return panel->createWidget<CodeEditor>(args, Glob::BottomLeft(10, 10));
@@ -47,15 +42,13 @@ protected:
         XY<int> span{-1, -1};
         for (int x = band.x1; x < band.x2; ++x)
             for (int y = band.y1; y < band.y2; ++y)
-                if (!channelsNear(TestKit::globPixel(e, x, y), bg, 60)) {
+                if (!TestKit::similar(TestKit::globPixel(e, x, y), bg, 60)) {
                     if (span.x < 0) span.x = x;
                     span.y = x;
                     break;
                 }
         return span;
     }
-
-    RecordingPanel* panel = nullptr;
 };
 
 LightweightString<wchar_t> numberedLines(int n) {
@@ -247,7 +240,6 @@ TEST_F(CodeEditorTest, ScrollingKeepsTheCaretInViewBothWays) {
     before = e->getScrollOffset().y;
     BoxInt arrow = bar->forwardArrowBox();
     TestKit::click(TestKit::screenPointOf(bar, {(arrow.x1 + arrow.x2) / 2, (arrow.y1 + arrow.y2) / 2}));
-    TestKit::pump();
     EXPECT_EQ(e->getScrollOffset().y, before + e->lineHeight());
     TestKit::wheel(TestKit::centreOf(e), -100000);
     EXPECT_EQ(e->getScrollOffset().y, e->numLines() * e->lineHeight() - e->textView().height()) << "the wheel stops at the end";

@@ -59,7 +59,6 @@ TEST_F(Swatches, AClickFiresTheCallbackAndLeavesTheColour) {
     const ColourData red(1.0, 0.0, 0.0, 0, 1.0);
     ColRect* s = swatch(red);
     TestKit::click(TestKit::centreOf(s));
-    TestKit::pump();
     ASSERT_EQ(host->messages, std::vector<std::string>{"swatch"});
     EXPECT_EQ(host->senders[0], s);
     EXPECT_EQ(s->getColour(), red);
@@ -75,7 +74,6 @@ TEST_F(Swatches, AClickFiresTheCallbackAndLeavesTheColour) {
 
     s->setClickable(false);
     TestKit::click(TestKit::centreOf(s));
-    TestKit::pump();
     EXPECT_EQ(calls, 1) << "a swatch that only shows takes no clicks";
     EXPECT_FALSE(s->acceptsKbdFocus());
 }

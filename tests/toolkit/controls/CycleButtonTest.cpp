@@ -30,7 +30,6 @@ TEST_F(CycleButtons, StatesOutOfRangeAndEmptyListsAreHarmless) {
     EXPECT_EQ(c->getPickState(), 0);
     c->setPickStrings({});
     TestKit::click(TestKit::centreOf(c));
-    TestKit::pump();
     EXPECT_EQ(c->getPickState(), 0);
     EXPECT_TRUE(c->getLabel().getString().empty());
     EXPECT_TRUE(host->messages.empty()) << "nothing to step to, nothing to report";
@@ -56,11 +55,9 @@ TEST_F(CycleButtons, IconsStandForTheirStatesAndAMissingOneLeavesTheLabel) {
     const int closedInk = inkPixels(c, middle, face);
     EXPECT_GT(closedInk, 20);
     TestKit::click(TestKit::centreOf(c));
-    TestKit::pump();
     EXPECT_TRUE(c->showsIcon());
     EXPECT_NE(inkPixels(c, middle, face), closedInk) << "each state paints its own icon";
     TestKit::click(TestKit::centreOf(c));
-    TestKit::pump();
     EXPECT_FALSE(c->showsIcon());
     EXPECT_EQ(c->getLabel().getString(), WString(L"Third"));
     EXPECT_GT(inkPixels(c, BoxInt(0, 6, 40, 22), face), 0) << "the label is painted instead";

@@ -35,9 +35,7 @@ public:
 inline MessageLog* makeHost(int w, int h, XY<int> at = {100, 100}) {
     StandardPanel::InitArgs args(static_cast<unsigned short>(w), static_cast<unsigned short>(h));
     args.palette = UifStd::instance().getColourScheme();
-    auto* p = new MessageLog(args);
-    p->setupRootPos(at);
-    GlobManager::instance().realize(p);
+    auto* p = TestKit::realize(new MessageLog(args), at);
     TestKit::pump();
     return p;
 }

@@ -21,14 +21,8 @@ protected:
         BoxInt b = m->rowBox(row);
         return TestKit::screenPointOf(m, {(b.x1 + b.x2) / 2, (b.y1 + b.y2) / 2});
     }
-    // How many pixels of `g` inside `box` are within `tolerance` of `colour`.
     static int pixelsLike(const Glob* g, const BoxInt& box, const Colour& colour, int tolerance = 40) {
-        const std::uint32_t want = TestKit::argb(colour);
-        int n = 0;
-        for (int y = box.y1; y < box.y2; ++y)
-            for (int x = box.x1; x < box.x2; ++x)
-                if (similar(TestKit::globPixel(g, x, y), want, tolerance)) ++n;
-        return n;
+        return TestKit::countPixels(g, box, colour, tolerance);
     }
     static bool alive(const Glob* g, const IdStamp& s) { return EventHandler::valid(g, s); }
 };

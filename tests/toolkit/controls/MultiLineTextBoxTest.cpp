@@ -6,14 +6,9 @@ using namespace TextControlKit;
 
 namespace {
 
-class MultiLineTextBoxTest : public ::testing::Test {
+class MultiLineTextBoxTest : public TextControlTest {
 protected:
     void SetUp() override { panel = makePanel(400, 300); }
-    void TearDown() override {
-        delete panel;
-        TestKit::reset();
-        OS()->setClipboardText({});
-    }
     template <class T = MultiLineTextBox>
     T* addBox(const wchar_t* text, int w, int lines, XY<int> at = {10, 10}) {
         typename T::InitArgs args(UIString(text), static_cast<unsigned short>(w),
@@ -24,8 +19,6 @@ protected:
     XY<int> layoutPoint(TextBoxBase* b, int x, int yDown) {
         return TestKit::screenPointOf(b, {b->getMargin() + x, b->height() - b->getMargin() - yDown});
     }
-
-    RecordingPanel* panel = nullptr;
 };
 
 // Records the links it is asked to open instead of starting a browser.

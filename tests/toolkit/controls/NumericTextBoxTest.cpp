@@ -7,7 +7,7 @@ using namespace TextControlKit;
 
 namespace {
 
-class NumericTextBoxTest : public ::testing::Test {
+class NumericTextBoxTest : public TextControlTest {
 protected:
     void SetUp() override {
         panel = makePanel();
@@ -16,17 +16,12 @@ protected:
         set_kbd_focus(box);
         TestKit::pump();
     }
-    void TearDown() override {
-        delete panel;
-        TestKit::reset();
-    }
     void enter(const wchar_t* text) {
         TestKit::pressKey('a', Modifiers::Control);
         TestKit::typeText(text);
         TestKit::pressKey(Keys::Return);
     }
 
-    RecordingPanel* panel = nullptr;
     NumericTextBox* box = nullptr;
 };
 

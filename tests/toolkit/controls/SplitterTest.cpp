@@ -26,7 +26,6 @@ protected:
     void dragBarBy(XY<int> d) {
         XY<int> from = TestKit::centreOf(bar);
         TestKit::drag(from, from + d);
-        TestKit::pump();
     }
     int count(const char* msg) const { return static_cast<int>(std::count(host->messages.begin(), host->messages.end(), msg)); }
 
@@ -134,7 +133,6 @@ TEST_F(Splitters, TheBarIsPaintedAndLightensUnderTheMouse) {
     EXPECT_LT(PanelsTest::nearestTo(bar, BoxInt(0, 0, bar->width(), bar->height()), TestKit::argb(p.window(kShadeDarkest))), 30)
         << "the grip dots";
     TestKit::mouseMove(TestKit::centreOf(bar));
-    TestKit::pump();
     EXPECT_TRUE(TestKit::pixelNear(bar, 0, 10, TestKit::argb(p.window(kShadeLight)), 2));
     EXPECT_EQ(bar->contextCursor({0, 0}), kCursorResizeHorizontal);
 }

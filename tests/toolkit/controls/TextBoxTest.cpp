@@ -7,16 +7,11 @@ using namespace TextControlKit;
 
 namespace {
 
-class TextBoxTest : public ::testing::Test {
+class TextBoxTest : public TextControlTest {
 protected:
     void SetUp() override {
         panel = makePanel();
         box = addBox(200);
-    }
-    void TearDown() override {
-        delete panel;
-        TestKit::reset();
-        OS()->setClipboardText({});
     }
 
     TextBox* addBox(int w, const wchar_t* text = L"", XY<int> at = {10, 10}) {
@@ -39,7 +34,6 @@ protected:
         return b->getMargin() + Glib::TextLayout(text, b->getFont()).caret(index).x;
     }
 
-    RecordingPanel* panel = nullptr;
     TextBox* box = nullptr;
 };
 

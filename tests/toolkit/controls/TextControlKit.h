@@ -34,17 +34,19 @@ public:
 inline RecordingPanel* makePanel(int w = 400, int h = 200, XY<int> at = {100, 100}) {
     StandardPanel::InitArgs args(static_cast<unsigned short>(w), static_cast<unsigned short>(h));
     args.palette = UifStd::instance().getColourScheme();
-    auto* p = new RecordingPanel(args);
-    p->setupRootPos(at);
-    GlobManager::instance().realize(p);
-    return p;
+    return TestKit::realize(new RecordingPanel(args), at);
 }
 
-inline bool channelsNear(std::uint32_t a, std::uint32_t b, int tolerance) {
-    for (int shift = 0; shift < 24; shift += 8)
-        if (std::abs(int((a >> shift) & 0xFF) - int((b >> shift) & 0xFF)) > tolerance) return false;
-    return true;
-}
+// A fixture with a panel for the control under test, which leaves the screen and
+// the clipboard empty for the next test.
+class TextControlTest : public TestKit::ScreenTest {
+protected:
+    void TearDown() override {
+        TestKit::reset();
+        OS()->setClipboardText({});
+    }
+    RecordingPanel* panel = nullptr;
+};
 
 // How many pixels of `box` (glob coordinates) are within `tolerance` of `colour`.
 inline int countPixels(const Glob* g, const BoxInt& box, const Colour& colour, int tolerance = 0) {
@@ -55,12 +57,7 @@ inline int countPixels(const Glob* g, const BoxInt& box, const Colour& colour, i
 // How many pixels of `box` differ from `background` by more than `tolerance`: ink.
 inline int inkPixels(const Glob* g, const BoxInt& box, const Colour& background, int tolerance = 40) {
     TestKit::pump();
-    std::uint32_t bg = TestKit::argb(background);
-    int n = 0;
-    for (int y = box.y1; y < box.y2; ++y)
-        for (int x = box.x1; x < box.x2; ++x)
-            if (!channelsNear(TestKit::globPixel(g, x, y), bg, tolerance)) ++n;
-    return n;
+    return TestKit::inkPixels(g, box, TestKit::argb(background), tolerance);
 }
 
 // True when two globs of one size show the same pixels.

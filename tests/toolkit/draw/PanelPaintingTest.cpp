@@ -9,10 +9,7 @@
 using TestKit::Owned;
 
 namespace {
-class PanelPainting : public ::testing::Test {
-protected:
-    void TearDown() override { TestKit::reset(); }
-};
+class PanelPainting : public TestKit::ScreenTest {};
 
 // How many pixels of a box differ from a colour: text drawn there shows up as such pixels.
 int pixelsNotOf(const Glob* g, const BoxInt& b, std::uint32_t colour) {

@@ -5,7 +5,7 @@
 #include "glob/StandardPanel.h"
 #include "testing/TestKit.h"
 
-// A glob that fills itself with one colour and records what reaches it.
+// A glob that fills itself with one colour and records what reaches it and how often it paints.
 class Block : public Glob {
 public:
     struct InitArgs : GlobCreationInfo {
@@ -14,7 +14,10 @@ public:
     };
     explicit Block(const InitArgs& a) : Glob(a), colour(a.colour) {}
     const char* idstring() const override { return "Block"; }
-    void drawBackground() override { CanvasRenderer(canvas()).fill(colour); }
+    void drawBackground() override {
+        ++paints;
+        CanvasRenderer(canvas()).fill(colour);
+    }
     int react(const Event& e) override {
         events.push_back(e);
         return consume ? 1 : 0;
@@ -25,6 +28,7 @@ public:
     Colour colour;
     std::vector<Event> events;
     std::vector<bool> focusChanges;
+    int paints = 0;
     bool consume = true;
     bool focusable = false;
 };
@@ -34,7 +38,5 @@ inline StandardPanel* makeRootPanel(int w, int h, XY<int> at = {100, 100}, const
     StandardPanel::InitArgs args(static_cast<unsigned short>(w), static_cast<unsigned short>(h));
     auto* p = new StandardPanel(args);
     p->setCol(c, false);
-    p->setupRootPos(at);
-    GlobManager::instance().realize(p);
-    return p;
+    return TestKit::realize(p, at);
 }

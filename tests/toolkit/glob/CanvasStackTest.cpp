@@ -12,10 +12,7 @@ namespace {
 
 StandardPanel* panelAt(XY<int> at) {
     StandardPanel::InitArgs a(80, 60);
-    auto* p = new StandardPanel(a);
-    p->setupRootPos(at);
-    GlobManager::instance().realize(p);
-    return p;
+    return TestKit::realize(new StandardPanel(a), at);
 }
 
 } // namespace

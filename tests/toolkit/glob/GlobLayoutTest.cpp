@@ -26,10 +26,7 @@ Block* add(StandardPanel* p, const WidgetPosition& pos, int w = 50, int h = 20, 
     return ::testing::AssertionSuccess();
 }
 
-class GlobLayout : public ::testing::Test {
-protected:
-    void TearDown() override { TestKit::reset(); }
-};
+class GlobLayout : public TestKit::ScreenTest {};
 
 } // namespace
 
@@ -133,9 +130,7 @@ TEST_F(GlobLayout, WidthZeroChildrenSpanTheUserArea) {
 TEST_F(GlobLayout, BadSizesAndPositionsDegrade) {
     // A zero-sized panel and negative positions are kept, drawn as nothing, and do not crash.
     GlobCreationInfo none(0, 0);
-    Owned<StandardPanel> empty(new StandardPanel(StandardPanel::InitArgs(none, Border())));
-    empty->setupRootPos({-50, -50});
-    GlobManager::instance().realize(empty.get());
+    Owned<StandardPanel> empty(TestKit::realize(new StandardPanel(StandardPanel::InitArgs(none, Border())), {-50, -50}));
     EXPECT_FALSE(empty->canDraw());
     Owned<StandardPanel> p(makeRootPanel(100, 100));
     Block* off = add(p.get(), Glob::BottomLeft(-30, -10), 40, 20);

@@ -8,10 +8,7 @@ using TestKit::Owned;
 
 namespace {
 
-class GlobOperations : public ::testing::Test {
-protected:
-    void TearDown() override { TestKit::reset(); }
-};
+class GlobOperations : public TestKit::ScreenTest {};
 
 class Interceptor : public StandardPanel {
 public:
@@ -78,9 +75,7 @@ TEST_F(GlobOperations, StartMovingCarriesThePanelWithTheMouse) {
 }
 
 TEST_F(GlobOperations, AncestorsInterceptBeforeTheTarget) {
-    auto* root = new Interceptor;
-    root->setupRootPos({0, 0});
-    GlobManager::instance().realize(root);
+    auto* root = TestKit::realize(new Interceptor, {0, 0});
     Block::InitArgs a(50, 50, Colour(1, 0, 0));
     Block* b = root->createWidget<Block>(a, Glob::BottomLeft(0, 0));
     TestKit::click({10, 10});

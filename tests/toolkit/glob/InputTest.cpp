@@ -9,10 +9,7 @@ using TestKit::Owned;
 
 namespace {
 
-class Input : public ::testing::Test {
-protected:
-    void TearDown() override { TestKit::reset(); }
-};
+class Input : public TestKit::ScreenTest {};
 
 class Tabbable : public Block, public TabOrderable {
 public:

@@ -30,10 +30,7 @@ public:
     std::vector<Zn::Ptr<iObject>> payloads;
 };
 
-class Messaging : public ::testing::Test {
-protected:
-    void TearDown() override { TestKit::reset(); }
-};
+class Messaging : public TestKit::ScreenTest {};
 
 } // namespace
 

@@ -6,27 +6,14 @@ using TestKit::Owned;
 
 namespace {
 
-class CountingBlock : public Block {
-public:
-    using Block::Block;
-    void drawBackground() override {
-        ++paints;
-        Block::drawBackground();
-    }
-    int paints = 0;
-};
-
-class Redraws : public ::testing::Test {
-protected:
-    void TearDown() override { TestKit::reset(); }
-};
+class Redraws : public TestKit::ScreenTest {};
 
 } // namespace
 
 TEST_F(Redraws, NestedBracketsPaintOnceAtTheOutermostClose) {
     Owned<StandardPanel> p(makeRootPanel(100, 100));
     Block::InitArgs a(20, 20, Colour(1, 0, 0));
-    auto* b = p->createWidget<CountingBlock>(a, Glob::BottomLeft(0, 0));
+    auto* b = p->createWidget<Block>(a, Glob::BottomLeft(0, 0));
     int before = b->paints;
 
     Drawable::disableRedraws();
@@ -49,8 +36,8 @@ TEST_F(Redraws, NestedBracketsPaintOnceAtTheOutermostClose) {
 TEST_F(Redraws, UpdatePaintsPendingAndSkipsTheDead) {
     Owned<StandardPanel> p(makeRootPanel(100, 100));
     Block::InitArgs a(20, 20, Colour(1, 0, 0));
-    auto* keep = p->createWidget<CountingBlock>(a, Glob::BottomLeft(0, 0));
-    Glob* gone = p->createWidget<CountingBlock>(a, Glob::BottomLeft(50, 0));
+    auto* keep = p->createWidget<Block>(a, Glob::BottomLeft(0, 0));
+    Glob* gone = p->createWidget<Block>(a, Glob::BottomLeft(50, 0));
     int before = keep->paints;
     Drawable::disableRedraws();
     keep->redraw();

@@ -12,6 +12,8 @@
 #include "platform/Paths.h"
 #include "platform/ResourceStrings.h"
 #include "platform/SystemWatchdog.h"
+#include "platform/getSystemLogDirectory.h"
+#include "testing/TestHome.h"
 
 #include <gtest/gtest.h>
 #include <loki/Singleton.h>
@@ -75,6 +77,14 @@ TEST(Config, IntegersFromTheFileAndDefaultsForAnythingElse) {
     EXPECT_EQ(config_int("test_io_devices", 4), 4);
     dir.setEnv("MOSAIC_HOME", dir.str());
     EXPECT_EQ(Configuration::settingsFolder(), dir.str().c_str());
+}
+
+TEST(TestHome, EveryFolderOfTheUserLiesInTheTestsOwnFreshFolder) {
+    const std::string home = TestKit::TestHome::path().string();
+    ASSERT_FALSE(home.empty());
+    for (const LightweightString<char>& folder : {Configuration::settingsFolder(), toUTF8(OS()->getApplicationDataFolder()),
+                                                  toUTF8(getSystemLogDirectory()), toUTF8(OS()->getUserFolder())})
+        EXPECT_EQ(folder.str().rfind(home + "/", 0), 0u) << folder.str();
 }
 
 TEST(Paths, SplitAndJoin) {

@@ -17,11 +17,12 @@ public:
         std::filesystem::create_directories(path_);
     }
     ~TempFolder() {
-        for (auto& [name, old] : saved_) {
-            if (old.first)
-                setenv(name.c_str(), old.second.c_str(), 1);
+        // Newest first, so that a variable set twice gets its first value back.
+        for (auto it = saved_.rbegin(); it != saved_.rend(); ++it) {
+            if (it->second.first)
+                setenv(it->first.c_str(), it->second.second.c_str(), 1);
             else
-                unsetenv(name.c_str());
+                unsetenv(it->first.c_str());
         }
         std::error_code ec;
         std::filesystem::remove_all(path_, ec);

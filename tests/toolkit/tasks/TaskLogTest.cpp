@@ -100,10 +100,7 @@ public:
     int offThread = 0;
 };
 
-class TaskLogs : public ::testing::Test {
-protected:
-    void TearDown() override { TestKit::reset(); }
-};
+class TaskLogs : public TestKit::ScreenTest {};
 
 } // namespace
 

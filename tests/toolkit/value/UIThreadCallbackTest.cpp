@@ -21,10 +21,7 @@ public:
     std::vector<bool> onUIThread;
 };
 
-class UIThreadCallbacks : public ::testing::Test {
-protected:
-    void TearDown() override { TestKit::reset(); }
-};
+class UIThreadCallbacks : public TestKit::ScreenTest {};
 
 Zn::Ptr<iCallbackBase<int, NotifyMsg>> constant(int value, int* calls) {
     return Zn::Ptr<iCallbackBase<int, NotifyMsg>>(new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([value, calls](const NotifyMsg&) {
