@@ -27,7 +27,6 @@
 namespace {
 
 constexpr ResId kCopyText = 303, kOpenText = 304, kRevealText = 305, kSaveToFileText = 306, kSavedTitle = 309;
-constexpr MenuItemType kLinkMenuStyle = static_cast<MenuItemType>(5);
 
 WidgetCallback menuAction(Logger* logger, int (Logger::*method)(const NotifyMsg&), bool alwaysDefer,
                           const LightweightString<char>& message) {
@@ -74,9 +73,9 @@ void Logger::reviewMenu(const Event* e) {
                 for (const auto& target : link.getTargets()) list += (list.empty() ? L"" : L",") + target;
                 LightweightString<char> message = toUTF8(list);
                 setMenuTitle(UIString(stripPath(link.getDescription())));
-                addMenuItem(MenuItem(UIString(resourceStrW(kCopyText)), menuAction(this, &Logger::copyToClipboard, false, message), kLinkMenuStyle));
-                addMenuItem(MenuItem(UIString(resourceStrW(kOpenText)), menuAction(this, &Logger::openFile, false, message), kLinkMenuStyle));
-                addMenuItem(MenuItem(UIString(resourceStrW(kRevealText)), menuAction(this, &Logger::revealInOS, false, message), kLinkMenuStyle));
+                addMenuItem(MenuItem(UIString(resourceStrW(kCopyText)), menuAction(this, &Logger::copyToClipboard, false, message), kMenuItemCommand));
+                addMenuItem(MenuItem(UIString(resourceStrW(kOpenText)), menuAction(this, &Logger::openFile, false, message), kMenuItemCommand));
+                addMenuItem(MenuItem(UIString(resourceStrW(kRevealText)), menuAction(this, &Logger::revealInOS, false, message), kMenuItemCommand));
             }
         }
     }
@@ -146,10 +145,10 @@ int Logger::saveToFile(const NotifyMsg&) {
     Drawable::disableRedraws();
     InitArgs a(1, 0, 0);
     a.border = StandardPanel::getDefaultBorder();
-    a.flags = kNoTitleBar | kNoHeader;
+    a.flags = kNoResizeGrip | kNoHeader;
     a.title = UIString(resourceStrW(kSavedTitle));
     a.palette = getPalette();
-    a.width = StandardPanel::calcPanelSize(XY<int>(TableColumnDescription::calcSizeFor(path), 0), kCloseBox | kMoveByTitle, a.border).x;
+    a.width = StandardPanel::calcPanelSize(XY<int>(TableColumnDescription::calcSizeFor(path), 0), kCloseBox | kTitleBar, a.border).x;
     a.taskLog = Zn::Ptr<iTaskLog>(new TaskLog);
     a.taskLog->write(path, otHyperLink);
     XY<int> at(getX() + width() / 2 - a.width / 2, getY() + height() / 2 - a.height / 2);

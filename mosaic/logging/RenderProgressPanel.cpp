@@ -63,7 +63,7 @@ XY<int> RenderProgressPanel::calcImageSize(int width, Zn::Image::AspectRatio rat
 }
 
 int RenderProgressPanel::calcHeightFromWidth(int width, Zn::Image::AspectRatio ratio) {
-    return calcPanelSize({width, contentHeight(calcImageSize(width, ratio).y)}, kMoveByTitle, getDefaultBorder()).y;
+    return calcPanelSize({width, contentHeight(calcImageSize(width, ratio).y)}, kTitleBar, getDefaultBorder()).y;
 }
 
 BoxInt RenderProgressPanel::getAreaForImage() const {

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr unsigned kModifierOrder[] = {Tutorial::Action::kShift, Tutorial::Action::kCtrl, Tutorial::Action::kCmd, Tutorial::Action::kAlt};
+constexpr unsigned kModifierOrder[] = {Modifiers::Shift, Modifiers::Control, Modifiers::Cmd, Modifiers::Alt};
 
 // The first numeric attribute of that name, as the file's single-precision number.
 bool numberOf(const JSON::Element& e, const char* name, double& out) {
@@ -79,10 +79,10 @@ int Tutorial::Message::read(const Zn::Ptr<JSON::Element>& e) {
 
 LightweightString<char> Tutorial::Action::asString(unsigned int bit) {
     switch (bit) {
-    case kShift: return "shift";
-    case kCtrl: return "ctrl";
-    case kCmd: return "cmd";
-    case kAlt: return "alt";
+    case Modifiers::Shift: return "shift";
+    case Modifiers::Control: return "ctrl";
+    case Modifiers::Cmd: return "cmd";
+    case Modifiers::Alt: return "alt";
     default: return {};
     }
 }

@@ -35,7 +35,7 @@ void addRunAttributes(PangoAttrList* list, const Run& run, std::size_t start, st
 }
 
 Glib::WordWrappingTextRenderer layoutOf(const Paragraph& p, int width, int defaultAlign) {
-    PangoLayout* layout = Glib::WordWrappingTextRenderer::createLayout(width, p.align == HTMLRenderer::kDefaultAlign ? defaultAlign : p.align);
+    PangoLayout* layout = Glib::WordWrappingTextRenderer::createLayout(width, p.align == Glib::kAlignDefault ? defaultAlign : p.align);
     PangoFontDescription* base = Glib::makePangoFont(Glib::getDefaultFont());
     pango_layout_set_font_description(layout, base);
     pango_font_description_free(base);
@@ -59,14 +59,14 @@ long linesOf(const Paragraph& p, int width) {
         const Run& run = p.runs.front();
         if (int n = Glib::TextAdvanceCache::forThisThread().countLines(run.text.view(), width, run.font); n > 0) return n;
     }
-    return layoutOf(p, width, HTMLRenderer::kLeft).numLines();
+    return layoutOf(p, width, Glib::kAlignLeft).numLines();
 }
 
 // The y of the first row's top edge when the rows take `height` pixels in all.
-int firstRowTop(const BoxInt& box, long height, int vertical) {
+int firstRowTop(const BoxInt& box, long height, Glib::eVerticalAlign vertical) {
     long spare = box.height() - height;
-    if (spare <= 0 || vertical == HTMLRenderer::kTop) return box.y2;
-    if (vertical == HTMLRenderer::kBottom) return box.y2 - static_cast<int>(spare);
+    if (spare <= 0 || vertical == Glib::kAlignTop) return box.y2;
+    if (vertical == Glib::kAlignBottom) return box.y2 - static_cast<int>(spare);
     return box.y2 - static_cast<int>(spare / 2);
 }
 
@@ -92,7 +92,7 @@ unsigned short HTMLRenderer::calcNumDisplayLines(const LightweightVector<Paragra
 }
 
 void HTMLRenderer::render(Canvas* canvas, const LightweightVector<Paragraph>& paragraphs, const BoxInt& box, int rowHeight,
-                          Alignment alignment) {
+                          Glib::TextAlignment alignment) {
     if (!canvas || box.isEmpty() || paragraphs.empty()) return;
     if (rowHeight <= 0) rowHeight = Glib::fontHeight(Glib::getDefaultFont());
     std::vector<Glib::WordWrappingTextRenderer> layouts;

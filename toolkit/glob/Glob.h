@@ -24,6 +24,9 @@ class Glob : public EventHandler, public Drawable, public Dirtiable {
 public:
     enum eSizeState { kNormalSize = 0, kMinimised = 1, kMaximised = 2 };
     enum eDropReason { kDropped = 0, kDropCancelled = 1 };
+    // What about the appearance changed (NUMBERS.md): the language or the fonts, so
+    // that texts are to be taken and measured again.
+    enum eUIChange : unsigned { kLanguageChanged = 8 };
 
     explicit Glob(const GlobCreationInfo& info);
     ~Glob() override;
@@ -176,7 +179,8 @@ public:
     bool isMovable() const { return movable_; }
     void setResizable(bool r) { resizable_ = r; }
     bool isResizable() const { return resizable_; }
-    // Called on every glob when the appearance of the whole application changes.
+    // Called on every glob when the appearance of the whole application changes;
+    // `what` holds eUIChange bits.
     virtual void handleUIChange(unsigned int what);
 
     // Painting: draw() paints the background, the children and the border, in

@@ -131,7 +131,7 @@ struct FakeButton {
     void setStyle(int x, int y) { a = x, b = y; }
 };
 struct FakeTitled : StandardPanel {
-    FakeTitled() : StandardPanel(10, 10) { setBorder(Border(Border::kRaised, 2, 15)); }
+    FakeTitled() : StandardPanel(10, 10) { setBorder(Border(Border::kSquarePanelBorder, 2, 15)); }
     FakeButton* button() { return &inner; }
     void setFrame(bool f) { frame = f; }
     FakeButton inner;
@@ -142,9 +142,9 @@ struct FakeTitled : StandardPanel {
 TEST_F(Frame, ApplyStyleToFlattensATitledDropDown) {
     FakeTitled t;
     EXPECT_EQ(applyStyleTo(&t), &t);
-    EXPECT_EQ(t.getBorder().type(), Border::kNone);
-    EXPECT_EQ(t.inner.a, 1);
-    EXPECT_EQ(t.inner.b, 1);
+    EXPECT_EQ(t.getBorder().type(), Border::kNoBorder);
+    EXPECT_EQ(t.inner.a, Button::kFlat);
+    EXPECT_EQ(t.inner.b, Button::kFlat);
     EXPECT_FALSE(t.frame);
     EXPECT_EQ(applyStyleTo<FakeTitled>(nullptr), nullptr);
 }

@@ -136,9 +136,9 @@ TEST_F(LoggerFixture, ClickingALinkOpensPagesAndEditListsAndRevealsOtherFiles) {
     ctx.cell = {0, 0};
     Event press = Event::mouse(Event::kMouseDown, rowPoint(l, 0), Event::kLeft);
     EXPECT_TRUE(field.handleEvent(ctx, press)) << "the event still counts as taken";
-    EXPECT_EQ(field.contextCursor(ctx, {}), iCellEditor::kCellCursorLink);
+    EXPECT_EQ(field.contextCursor(ctx, {}), kCursorHand);
     ctx.cell = {0, 7};
-    EXPECT_EQ(field.contextCursor(ctx, {}), iCellEditor::kCellCursorDefault);
+    EXPECT_EQ(field.contextCursor(ctx, {}), kCursorArrow);
     ctx.cell = {0, 40000};
     EXPECT_TRUE(field.handleEvent(ctx, Event::mouse(Event::kMouseUp, {0, 0}, Event::kLeft)));
     EXPECT_EQ(field.drawField(ctx), 1);

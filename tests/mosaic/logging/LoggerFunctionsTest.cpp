@@ -133,3 +133,16 @@ TEST_F(LoggerFixture, ButtonsLieRightToLeftByDefaultAndKeepTheTableClearOfThem) 
     EXPECT_TRUE(stop->isActive());
     l->setButtonActive(7, false, kNoRedraw);
 }
+
+TEST_F(LoggerFixture, FlagsLeaveOutTheCloseBoxOrTheGripAndCanForbidResizing) {
+    const int full = StandardPanel::kTitleBar | StandardPanel::kCloseBox | StandardPanel::kResizeGrip;
+    Logger* plain = make();
+    EXPECT_EQ(plain->standardWidgets(), full);
+    EXPECT_TRUE(plain->isMovable());
+    EXPECT_TRUE(plain->isResizable());
+    EXPECT_EQ(make(Logger::kNoCloseBox)->standardWidgets(), full & ~StandardPanel::kCloseBox);
+    Logger* gripless = make(Logger::kNoResizeGrip);
+    EXPECT_EQ(gripless->standardWidgets(), full & ~StandardPanel::kResizeGrip);
+    EXPECT_FALSE(gripless->isResizable());
+    EXPECT_FALSE(make(Logger::kNotResizable)->isResizable()) << "even with its grip";
+}
