@@ -172,7 +172,7 @@ void buildControls() {
     addButtons(p, gap, row);
     addChecks(p, gap, row);
     addValues(p, gap, row);
-    p->setInterest(4096);
+    p->setInterest(Glob::kTimerInterest);
     GlobManager::instance().realize(p);
     Drawable::enableRedraws();
 }

@@ -152,7 +152,7 @@ private:
     std::vector<Zn::Ptr<Zn::Guard>> guards_;
     unsigned int flags_ = 0;
     bool repaintPosted_ = false;
-    XY<int> pressedAt_{-1234, -1234};
+    XY<int> pressedAt_{kUnset, kUnset};
     bool dragged_ = false;
     LightweightString<wchar_t> empty_;
 };

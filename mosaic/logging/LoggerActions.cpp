@@ -111,12 +111,12 @@ int Logger::handleMouseClickEvent(const XY<int>& cell, const Event& e) {
     }
     if (mouse_up_event(e)) {
         bool ended = dragged_;
-        pressedAt_ = {-1234, -1234};
+        pressedAt_ = {kUnset, kUnset};
         dragged_ = false;
         return ended ? 1 : 0;
     }
     const LoggedItem* row = rowAt(cell.y);
-    if (!row || row->type != otHyperLink || !mouse_move_event(e) || pressedAt_.x == -1234 || dragged_) return 0;
+    if (!row || row->type != otHyperLink || !mouse_move_event(e) || pressedAt_.x == kUnset || dragged_) return 0;
     LoggerBase::HyperLink link = LoggerBase::HyperLink::fromString(row->text);
     // A "|" marks a target that cannot stand as a file of its own.
     if (link.empty() || link.getTargets().front().find(L'|') != LightweightString<wchar_t>::npos) return 0;

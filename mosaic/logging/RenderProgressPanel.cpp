@@ -52,7 +52,7 @@ RenderProgressPanel* RenderProgressPanel::make(Zn::Image::AspectRatio ratio) {
     auto* p = new RenderProgressPanel(static_cast<unsigned short>(width), ratio, UifStd::instance().getColourScheme().window(kShadeNormal));
     p->setupRootPos(at);
     GlobManager::instance().realize(p);
-    p->reshapeAndDraw({-1234, -1234});
+    p->reshapeAndDraw({kUnset, kUnset});
     return p;
 }
 

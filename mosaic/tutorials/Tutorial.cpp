@@ -153,7 +153,7 @@ void Tutorial::save(const LightweightString<wchar_t>& path) {
     JSON::Builder builder(2);
     write(builder);
     builder.printTo(file, 3, 0);
-    file.save(LightweightString<wchar_t>(), TextFile::eEOLStyle(1));
+    file.save(LightweightString<wchar_t>(), TextFile::kLF);
 }
 
 void Tutorial::write(JSON::Builder& b) const {

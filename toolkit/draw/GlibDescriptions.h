@@ -60,7 +60,8 @@ struct TextAlignment {
     constexpr TextAlignment() = default;
     constexpr TextAlignment(eHorizontalAlign h, eVerticalAlign v) : horizontal(h), vertical(v) {}
     constexpr TextAlignment(int h, int v)
-        : horizontal(enumFromInt(h, kAlignDefault, kAlignCentreH, kAlignDefault)), vertical(enumFromInt(v, kAlignMiddle, kAlignBottom, kAlignMiddle)) {}
+        : horizontal(enumFromInt(h, kAlignDefault, kAlignCentreH, kAlignDefault)),
+          vertical(enumFromInt(v, kAlignMiddle, kAlignBottom, kAlignMiddle)) {}
     bool operator==(const TextAlignment&) const = default;
 };
 

@@ -100,7 +100,10 @@ public:
     XY<int> screenXYToGlobXY(const XY<int>& p) const;
     // Sizes below the minimum size are raised to it. Children are laid out again.
     virtual void resize(double width, double height);
-    // Resizes to `size` (−1234 in either keeps that side) and repaints.
+    // The mark of a coordinate that is not given: a size side of kUnset keeps that
+    // side, a point of (kUnset, kUnset) is no point.
+    static constexpr int kUnset = -1234;
+    // Resizes to `size` (kUnset in either keeps that side) and repaints.
     void reshapeAndDraw(const XY<int>& size);
     virtual void setMinSize(unsigned short w, unsigned short h);
     virtual XY<int> getMinSize() const { return minSize_; }
@@ -222,7 +225,8 @@ public:
     virtual void handleKbdFocus(bool gained) {}
     virtual void relinquishKbdFocus(Glob* next);
     bool hasKbdFocus() const;
-    // Bit 4096 asks for timer ticks (handleTimerEvent on panels).
+    // The interest bit that asks for timer ticks (handleTimerEvent on panels).
+    static constexpr int kTimerInterest = 4096;
     virtual void setInterest(int bits);
     virtual void clearInterest(int bits);
     int interest() const { return interest_; }

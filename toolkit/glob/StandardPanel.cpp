@@ -89,7 +89,9 @@ StandardPanel::~StandardPanel() = default;
 
 // ---- border, title, furniture -----------------------------------------------
 
-Border StandardPanel::getDefaultBorder() { return Border(Border::kSquarePanelBorder, static_cast<unsigned short>(UifStd::instance().getBorderWidth()), 15); }
+Border StandardPanel::getDefaultBorder() {
+    return Border(Border::kSquarePanelBorder, static_cast<unsigned short>(UifStd::instance().getBorderWidth()), 15);
+}
 
 void StandardPanel::setBorder(const Border& b) {
     border_ = b;
