@@ -76,7 +76,7 @@ void addButtons(ControlsPanel* p, int gap, int row) {
     auto* ok = place<PushButton>(p, PushButton::InitArgs(L"Render", WidgetCallback("render"), 110, row), Glob::RightOf(gap, normal));
     ok->setDefault(true);
     Button* flat = place<Button>(p, Button::InitArgs(L"Flat", WidgetCallback("flat"), 90, row), Glob::RightOf(gap, ok));
-    flat->setStyle(1, 1);
+    flat->setStyle(Button::kFlat, Button::kFlat);
     Button* off = place<Button>(p, Button::InitArgs(L"Inactive", WidgetCallback("off"), 110, row), Glob::RightOf(gap, flat));
     off->setActive(false, kNoRedraw);
     ok->claimKbdFocus();
@@ -166,13 +166,13 @@ void buildControls() {
     auto* p = new ControlsPanel(args);
     p->setBorder(StandardPanel::getDefaultBorder());
     p->setTitle(UIString(L"Controls"));
-    p->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kMoveByTitle);
+    p->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kTitleBar);
     const Screen& screen = GlobManager::instance().screen();
     p->setupRootPos({40, screen.height() - 60 - p->height()});
     addButtons(p, gap, row);
     addChecks(p, gap, row);
     addValues(p, gap, row);
-    p->setInterest(4096);
+    p->setInterest(Glob::kTimerInterest);
     GlobManager::instance().realize(p);
     Drawable::enableRedraws();
 }

@@ -80,7 +80,7 @@ void buildGrade() {
     auto* p = new GradePanel(args);
     p->setBorder(StandardPanel::getDefaultBorder());
     p->setTitle(UIString(L"Grade"));
-    p->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kMoveByTitle);
+    p->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kTitleBar);
     p->setupRootPos({40, GlobManager::instance().screen().height() - 40 - p->height()});
     CycleButton::InitArgs scope({L"Scope: luma", L"Scope: RGB", L"Scope: parade"}, {}, 160, static_cast<unsigned short>(row));
     Glob* above = p->createWidget<CycleButton>(scope, Glob::UserTopLeft(gap, gap));

@@ -53,7 +53,9 @@ public:
         names[static_cast<std::size_t>(cell.y)] = text;
         return true;
     }
-    std::pair<int, int> getTextAlignment(const XY<int>& cell) override { return {cell.x == 1 ? 1 : -1, 0}; }
+    Glib::TextAlignment getTextAlignment(const XY<int>& cell) override {
+        return {cell.x == 1 ? Glib::kAlignRight : Glib::kAlignDefault, Glib::kAlignMiddle};
+    }
     int getTextStyle(const XY<int>& cell) override { return cell.x == 2 && cell.y % 3 == 0 ? kStyleBold : kStyleDefault; }
 
     std::vector<WStr> names;

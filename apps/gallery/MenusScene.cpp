@@ -68,7 +68,7 @@ void buildMenus() {
     auto* p = new MenusPanel(args);
     p->setBorder(StandardPanel::getDefaultBorder());
     p->setTitle(UIString(L"Menus"));
-    p->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kMoveByTitle);
+    p->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kTitleBar);
     const Screen& screen = GlobManager::instance().screen();
     p->setupRootPos({40, screen.height() - 60 - p->height()});
     const unsigned short inner = static_cast<unsigned short>(p->getUserArea().width() - 2 * gap);

@@ -103,7 +103,7 @@ void buildPanels() {
     auto* p = new PanelsPanel(args);
     p->setBorder(StandardPanel::getDefaultBorder());
     p->setTitle(UIString(L"Panels"));
-    p->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kMoveByTitle);
+    p->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kTitleBar);
     const Screen& screen = GlobManager::instance().screen();
     p->setupRootPos({40, screen.height() - 60 - p->height()});
 

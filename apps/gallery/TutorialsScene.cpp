@@ -57,7 +57,7 @@ void buildCatalogue() {
     auto* panel = new StandardPanel(args);
     panel->setBorder(StandardPanel::getDefaultBorder());
     panel->setTitle(UIString(L"Tutorials"));
-    panel->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kMoveByTitle);
+    panel->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kTitleBar);
     GlobCreationInfo view(static_cast<unsigned short>(user.x), static_cast<unsigned short>(user.y));
     view.canvas = panel->canvas();
     view.palette = panel->getPalette();

@@ -49,7 +49,7 @@ Zn::Ptr<JSON::Element> readDescription(const std::string& path, std::string& err
 XY<int> panelSizeFor(unsigned rows, int width) {
     const UifStd& std = UifStd::instance();
     const int userHeight = static_cast<int>(std::max(1u, rows)) * (std.getRowHeight() + std.getRowGap());
-    return StandardPanel::calcPanelSize(XY<int>(width, userHeight), StandardPanel::kCloseBox | StandardPanel::kMoveByTitle,
+    return StandardPanel::calcPanelSize(XY<int>(width, userHeight), StandardPanel::kCloseBox | StandardPanel::kTitleBar,
                                         StandardPanel::getDefaultBorder());
 }
 

@@ -76,5 +76,5 @@ Logger* make_logger(LightweightString<wchar_t> title, bool flag1, LightweightStr
     // Added after the height was computed: the gauge's row is not counted.
     if (flag1) a.flags |= Logger::kMadeByFunction;
     if (showProgress) a.flags |= Logger::kShowProgress;
-    return makeTopLevel<Logger>(a, x < 0 ? Glob::Centre(0, 0, kAlignEnd) : Glob::BottomLeft(x, y));
+    return makeTopLevel<Logger>(a, x < 0 ? Glob::Centre(0, 0, kAlignCentre) : Glob::BottomLeft(x, y));
 }

@@ -5,7 +5,7 @@
 
 HostPanel::HostPanel(const InitArgs& args) : StandardPanel(args) {
     setBorder(getDefaultBorder());
-    addStandardWidgets(kCloseBox | kMoveByTitle);
+    addStandardWidgets(kCloseBox | kTitleBar);
     setTitle(UIString(L"Output"), UifStd::instance().getTitleFont(), kNoRedraw);
     params_ = args.description ? UIBuilder::buildFromJSON(args.description, this) : UIBuilder::build(args.params, this);
 }

@@ -116,7 +116,7 @@ Zn::Ptr<UIBuilder::Params> UIBuilder::build(const ParamList& params, StandardPan
         if (!row || !action) continue;
         const WidgetCallback callback(runAction, LightweightString<char>(), action);
         if (actionsOnMenu) {
-            if (panel) panel->addMenuItem(MenuItem(action->getLegend(), callback), row->isActive());
+            if (panel) panel->addMenuItem(MenuItem(action->getLegend(), callback, kMenuItemCommand), row->isActive());
         } else if (auto* titled = dynamic_cast<TitledGlob<Button>*>(row)) {
             titled->control()->setCallback(callback);
         }

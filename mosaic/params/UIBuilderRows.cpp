@@ -190,7 +190,7 @@ Glob* UIBuilder::makeSliderRow(const Zn::Ptr<iParam>& param, const SliderRow& nu
     const int titledWidth = hideBox ? width_ : width_ - 2 * h - g;
 
     SliderParamHost::InitArgs hostArgs(width_, static_cast<unsigned short>(h));
-    hostArgs.border = Border(0, 0, 15);
+    hostArgs.border = Border(Border::kNoBorder, 0, 15);
     auto* host = createRow<SliderParamHost>(hostArgs, position, surround);
 
     const Palette& palette = panel_->getPalette();
@@ -211,10 +211,10 @@ Glob* UIBuilder::makeSliderRow(const Zn::Ptr<iParam>& param, const SliderRow& nu
     if (!hideBox) {
         NumericTextBox::InitArgs boxArgs(UIString(LightweightString<wchar_t>()), static_cast<unsigned short>(2 * h),
                                          static_cast<unsigned short>(std::min(h, TextBox::calcHeight())));
-        box = host->createWidget<NumericTextBox>(boxArgs, Glob::RightCentre(indent, 0, kAlignEnd), WidgetSurround(1, 15, 0, 0, 0.2f, false));
+        box = host->createWidget<NumericTextBox>(boxArgs, Glob::RightCentre(indent, 0, kAlignCentre), WidgetSurround(1, 15, 0, 0, 0.2f, false));
         box->setEditable(true);
         box->setPalette(makeChildPalette(palette));
-        box->setAlignment(TextBoxBase::TextAlignment(2, 1));
+        box->setAlignment(Glib::TextAlignment(Glib::kAlignCentreH, Glib::kAlignTop));
         if (numbers.min != numbers.max) box->setValueRange(numbers.min, numbers.max);
     }
     numbers.bind(slider, box);

@@ -39,7 +39,7 @@ int Button::calcHeight() { return UifStd::instance().getRowHeight(); }
 
 void Button::drawBackground() {
     Glob::drawBackground();
-    drawFace(BoxInt(0, 0, width(), height()), style_ == 1, latched_);
+    drawFace(BoxInt(0, 0, width(), height()), style_ == kFlat, latched_);
     drawLabel(label_, labelBox());
 }
 

@@ -42,7 +42,7 @@ public:
         return w->react(e) != 0;
     }
     bool isResponsibleForMessage(const LightweightString<char>&, Glob* sender) const override { return sender && sender == live(); }
-    int contextCursor(const CellContext&, const XY<int>&) override { return kCellCursorDefault; }
+    MouseCursorID contextCursor(const CellContext&, const XY<int>&) override { return kCursorArrow; }
     UIString contextString(const CellContext&) override { return {}; }
 
 protected:

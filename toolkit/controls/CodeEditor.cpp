@@ -215,14 +215,15 @@ void CodeEditor::insertTab() {
 int CodeEditor::handleKeyboardEvent(int keyCode) {
     if (!isEditable() || !isActive()) return 0;
     const unsigned mods = keyModifiers();
-    switch (keyCode) {
+    const int key = Keys::plain(keyCode);
+    switch (key) {
     case Keys::Tab:
-        if (mods & (Modifiers::Shift | Modifiers::Control | Modifiers::Alt | Modifiers::Meta)) return 0;
+        if (mods & Modifiers::All) return 0;
         insertTab();
         return 1;
     case Keys::PageUp:
     case Keys::PageDown:
-        moveCaretVertically(keyCode == Keys::PageUp ? -linesPerPage() : linesPerPage(), mods & Modifiers::Shift);
+        moveCaretVertically(key == Keys::PageUp ? -linesPerPage() : linesPerPage(), mods & Modifiers::Shift);
         return 1;
     case Keys::Escape:
         // Going back to the text as it was when the focus came would throw away a

@@ -62,6 +62,7 @@ void CycleButton::clicked() {
 }
 
 int CycleButton::handleKey(int key) {
+    key = Keys::plain(key);
     if (key == Keys::Up) return step(-1), 1;
     if (key == Keys::Down) return step(1), 1;
     return 0;

@@ -80,7 +80,7 @@ int buttonWidth(const UIString& label) { return std::max(4 * UifStd::instance().
 FileBrowserBase::FileBrowserBase(const InitArgs& args)
     : StandardPanel(StandardPanel::InitArgs(GlobCreationInfo(args, static_cast<unsigned short>(args.width > 0 ? 0 : calcSize().x),
                                                              static_cast<unsigned short>(args.height > 0 ? 0 : calcSize().y)),
-                                            Border(Border::kNone, 0, 15))) {}
+                                            Border(Border::kNoBorder, 0, 15))) {}
 
 FileBrowserBase::~FileBrowserBase() = default;
 
@@ -100,7 +100,7 @@ void FileBrowserBase::init(const InitArgs& args, int flags) {
     setBorder(getDefaultBorder());
     if (flags & kFrameFlag) {
         setTitle(args.title.empty() ? UIString(titleId) : args.title, {}, kNoRedraw);
-        addStandardWidgets(kCloseBox | kMoveByTitle | ((flags & kResizableFlag) ? kResizeGrip : 0));
+        addStandardWidgets(kCloseBox | kTitleBar | ((flags & kResizableFlag) ? kResizeGrip : 0));
     }
     const int row = UifStd::instance().getRowHeight();
     setMinSize(static_cast<unsigned short>(18 * row), static_cast<unsigned short>(10 * row));
@@ -483,7 +483,9 @@ int FileBrowserBase::getTextStyle(const XY<int>& cell) {
     return item && item->isFolder && columnKey(cell.x) == "name" ? kStyleBold : kStyleDefault;
 }
 
-std::pair<int, int> FileBrowserBase::getTextAlignment(const XY<int>& cell) { return {columnKey(cell.x) == "size" ? 1 : -1, 0}; }
+Glib::TextAlignment FileBrowserBase::getTextAlignment(const XY<int>& cell) {
+    return {columnKey(cell.x) == "size" ? Glib::kAlignRight : Glib::kAlignDefault, Glib::kAlignMiddle};
+}
 
 int FileBrowserBase::handleMouseClickEvent(const XY<int>& cell, const Event& e) {
     if (!mouse_down_event(e) || !mouse_left_event(e) || !listing_.item(cell.y)) return 0;
@@ -541,7 +543,7 @@ int FileBrowserBase::handleMessageEvent(const LightweightString<char>& message, 
 
 int FileBrowserBase::handleKeyboardEvent(int key) {
     if (state_ != kBrowsing) return 0;
-    switch (key) {
+    switch (Keys::plain(key)) {
     case Keys::Escape: cancel(); return 1;
     case Keys::Backspace: goUp(); return 1;
     case Keys::Return:

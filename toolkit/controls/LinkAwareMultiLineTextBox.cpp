@@ -200,7 +200,7 @@ const LinkAwareMultiLineTextBox::Link* LinkAwareMultiLineTextBox::linkAt(XY<int>
 }
 
 bool LinkAwareMultiLineTextBox::opensOnClick(unsigned modifiers) const {
-    return isActive() && (!isEditable() || (modifiers & (Modifiers::Control | Modifiers::Meta)));
+    return isActive() && (!isEditable() || (modifiers & (Modifiers::Control | Modifiers::Cmd)));
 }
 
 int LinkAwareMultiLineTextBox::handleMouseEvent(const Event& e) {

@@ -22,14 +22,14 @@ StandardPanel::InitArgs topLevel(const Menu::InitArgs& a) {
     return s;
 }
 
-bool isPrintable(int key) { return key > Keys::Space && key < Keys::Special && key != Keys::Delete; }
+bool isPrintable(int key) { return key != Keys::Space && Keys::isPrintable(key); }
 
 } // namespace
 
 Menu::Menu(const InitArgs& args)
     : StandardPanel(topLevel(args)), items_(args.items), minWidth_(args.minWidth), maxWidth_(args.maxWidth), maxHeight_(args.maxHeight) {
     setCanBeIt(false);
-    setBorder(Border(Border::kLine, static_cast<unsigned short>(std::max(1, UifStd::instance().getBorderWidth() / 2)), 15));
+    setBorder(Border(Border::kMenuBorder, static_cast<unsigned short>(std::max(1, UifStd::instance().getBorderWidth() / 2)), 15));
     if (!args.title.empty()) setTitle(args.title, {}, kNoRedraw);
     addShadow();
     if (args.marked >= 0 && args.marked < static_cast<int>(items_.size())) marked_ = args.marked;
@@ -209,6 +209,7 @@ void Menu::handleChoice(int row) {
 
 int Menu::handleKeyboardEvent(int key) {
     const int n = static_cast<int>(items_.size());
+    key = Keys::plain(key);
     switch (key) {
     case Keys::Escape: close(); break;
     case Keys::Return:

@@ -47,7 +47,7 @@ Message::Message(const InitArgs& args, const std::vector<UIString>& labels, cons
     }
     setBorder(getDefaultBorder());
     setTitle(title, {}, kNoRedraw);
-    addStandardWidgets(kMoveByTitle);
+    addStandardWidgets(kTitleBar);
     build(shown);
 }
 
@@ -109,7 +109,7 @@ XY<int> Message::calcSize(const UIString& title, const UIString& text, int butto
     const int textW = calcTextWidth(title, buttonsWidth);
     const Analysis a = analyse(text, textW);
     const XY<int> user(textW + 2 * UifStd::instance().getTextIndent(), a.height + marginsHeight());
-    return calcPanelSize(user, kMoveByTitle, getDefaultBorder());
+    return calcPanelSize(user, kTitleBar, getDefaultBorder());
 }
 
 int Message::textIndent() const { return UifStd::instance().getTextIndent(); }
@@ -150,7 +150,7 @@ void Message::drawBackground() {
 }
 
 int Message::handleKeyboardEvent(int keyCode) {
-    switch (keyCode) {
+    switch (Keys::plain(keyCode)) {
     case Keys::Return:
     case Keys::KeypadEnter: press(0); return 1;
     case Keys::Escape: close(); return 1;

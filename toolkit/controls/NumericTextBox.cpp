@@ -67,7 +67,7 @@ void NumericTextBox::step(double steps) {
 
 int NumericTextBox::handleKeyboardEvent(int keyCode) {
     if (isEditable() && isActive()) {
-        switch (keyCode) {
+        switch (Keys::plain(keyCode)) {
         case Keys::Up: step(1); return 1;
         case Keys::Down: step(-1); return 1;
         case Keys::PageUp: step(10); return 1;

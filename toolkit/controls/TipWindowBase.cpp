@@ -164,8 +164,7 @@ XY<int> TipWindowBase::calcPosition(const BoxInt& anchor, const XY<int>& size, e
     SiblingRelativePosition rel{relativity == kNoRelativity ? kBelow : relativity, nullptr, gap, kAlignStart};
     BoxInt b = placeBeside(size, anchor, rel);
     if (!within(area, b)) {
-        static const eWidgetRelativity opposite[] = {kBelow, kAbove, kRightOf, kLeftOf, kAbove};
-        rel.relativity = opposite[rel.relativity];
+        rel.relativity = oppositeSide(rel.relativity);
         BoxInt other = placeBeside(size, anchor, rel);
         if (within(area, other)) b = other;
     }

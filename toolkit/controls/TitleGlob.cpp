@@ -21,7 +21,7 @@ Glib::FontDesc resolveFont(const Glib::FontDesc& f) { return f == Glib::FontDesc
 } // namespace
 
 TitleGlob::TitleGlob(const InitArgs& args)
-    : StandardPanel(StandardPanel::InitArgs(args, Border(Border::kNone, 0, 15))), legend_(args.title) {
+    : StandardPanel(StandardPanel::InitArgs(args, Border(Border::kNoBorder, 0, 15))), legend_(args.title) {
     requestedFont_ = args.font;
     legendFont_ = resolveFont(args.font);
     autoWidth_ = args.titleWidth <= 0;

@@ -134,6 +134,7 @@ int TreeView::handleItemKey(int key) {
     int cur = getSelectedIndex();
     if (cur < 0 || cur >= static_cast<int>(rows_.size())) return 0;
     const Row row = rows_[static_cast<std::size_t>(cur)];
+    key = Keys::plain(key);
     if (key == Keys::Right) {
         if (row.hasChildren && !isExpanded(row.id)) {
             expand(row.id);

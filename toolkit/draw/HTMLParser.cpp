@@ -73,12 +73,12 @@ std::optional<int> parseFontSize(std::wstring_view value) {
     return std::clamp(sign ? 3 + sign * n : n, 1, 7);
 }
 
-int parseAlign(std::wstring_view value) {
+Glib::eHorizontalAlign parseAlign(std::wstring_view value) {
     std::wstring v = lower(trim(value));
-    if (v == L"center" || v == L"centre" || v == L"middle") return HTMLRenderer::kCentre;
-    if (v == L"right") return HTMLRenderer::kRight;
-    if (v == L"left" || v == L"justify") return HTMLRenderer::kLeft;
-    return HTMLRenderer::kDefaultAlign;
+    if (v == L"center" || v == L"centre" || v == L"middle") return Glib::kAlignCentreH;
+    if (v == L"right") return Glib::kAlignRight;
+    if (v == L"left" || v == L"justify") return Glib::kAlignLeft;
+    return Glib::kAlignDefault;
 }
 
 int scaledSize(int base, double factor) { return std::max(1, static_cast<int>(std::lround(base * factor))); }

@@ -303,8 +303,7 @@ void Glob::setModalContextGlob(Glob* modal, Glob* context) { GlobManager::instan
 void Glob::unsetModalContextGlob(Glob* modal) { GlobManager::instance().removeModalGlob(modal); }
 
 void Glob::reshapeAndDraw(const XY<int>& s) {
-    constexpr int kKeep = -1234;
-    resize(s.x == kKeep ? w_ : s.x, s.y == kKeep ? h_ : s.y);
+    resize(s.x == kUnset ? w_ : s.x, s.y == kUnset ? h_ : s.y);
     redraw();
 }
 
@@ -479,12 +478,12 @@ bool Glob::hasKbdFocus() const { return get_kbd_focus() == this; }
 
 void Glob::setInterest(int bits) {
     interest_ |= bits;
-    if (bits & 4096) GlobManager::instance().setTimerInterest(this, true);
+    if (bits & kTimerInterest) GlobManager::instance().setTimerInterest(this, true);
 }
 
 void Glob::clearInterest(int bits) {
     interest_ &= ~bits;
-    if (bits & 4096) GlobManager::instance().setTimerInterest(this, false);
+    if (bits & kTimerInterest) GlobManager::instance().setTimerInterest(this, false);
 }
 
 void Glob::popToTop(bool) { GlobManager::instance().raise(getRootParent(this)); }

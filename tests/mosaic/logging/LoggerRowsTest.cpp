@@ -56,7 +56,8 @@ TEST_F(LoggerFixture, RowsTakeTheColourOfTheirKindAndLinksShowTheirDescription) 
     const Palette& p = l->getPalette();
     const LB::eOutputType kinds[] = {LB::otNormal, LB::otQuiet, LB::otWarning, LB::otEmphasis, LB::otError, LB::otHyperLink,
                                      LB::otSuccess, static_cast<LB::eOutputType>(42)};
-    const Colour want[] = {p.text(0), p.text(0), Colour(1.0, 1.0, 0.0), p.text(1), p.warning(), p.text(0), Colour(0.1, 0.7, 0.3), p.text(0)};
+    const Colour want[] = {p.text(kTextNormal), p.text(kTextNormal), Colour(1.0, 1.0, 0.0), p.text(kTextDimmed),
+                           p.warning(),         p.text(kTextNormal), Colour(0.1, 0.7, 0.3), p.text(kTextNormal)};
     for (auto k : kinds) put(l, L"row", k);
     for (std::size_t i = 0; i < std::size(kinds); ++i) EXPECT_EQ(l->rows()[i].textColour, want[i]) << "kind " << kinds[i];
     LB::HyperLink link({L"/media/a.mov", L"/media/b.mov"}, L"Two clips");

@@ -22,7 +22,7 @@ TEST(MenuItemRows, KindsOfRowTellHeadingsAndGapsFromChoices) {
     EXPECT_FALSE(gap.isChoice());
     MenuItem plain(UIString(L"Copy"), WidgetCallback("copy"), kMenuItemPlain);
     EXPECT_TRUE(plain.canBeChosen()) << "any type but a heading is a choice";
-    MenuItem styled(UIString(L"Reveal"), {}, static_cast<MenuItemType>(5));
+    MenuItem styled(UIString(L"Reveal"), {}, kMenuItemCommand);
     EXPECT_TRUE(styled.isChoice());
     styled.setActive(false);
     EXPECT_TRUE(styled.isChoice());

@@ -117,6 +117,19 @@ TEST_F(Tabs, CtrlTabCyclesEvenFromAControlOnAPage) {
     EXPECT_EQ(tabs->getSelectedTab(), 2) << "a plain Tab is not the dialogue's";
 }
 
+TEST_F(Tabs, WithoutTheirFlagsThePagesHaveNoFrameAndCtrlTabIsLeftAlone) {
+    TabbedDialogue::InitArgs args(200, 100, TabbedDialogue::kEvenTabs);
+    auto* bare = host->createWidget<TabbedDialogue>(args, Glob::UserBottomLeft(10, 10));
+    bare->addTab(UIString(L"One"));
+    bare->addTab(UIString(L"Two"));
+    const BoxInt user = bare->getUserArea();
+    EXPECT_EQ(bare->pageBox(), BoxInt(user.x1, user.y1, user.x2, bare->tabsBox().y1)) << "the pages reach the edges";
+    EXPECT_GT(tabs->pageBox().x1, tabs->getUserArea().x1) << "a framed dialogue keeps its frame clear";
+    ASSERT_TRUE(bare->claimKbdFocus());
+    TestKit::pressKey(Keys::Tab, Modifiers::Control);
+    EXPECT_EQ(bare->getSelectedTab(), 0);
+}
+
 TEST_F(Tabs, RemovingPagesKeepsASensibleSelection) {
     tabs->selectTab(1);
     Glob* handed = tabs->removePage(1, false);
