@@ -6,6 +6,9 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <string>
+
+class iHostImage;
 
 // Drives the toolkit headless in tests: pumps the event loop, injects input at
 // screen coordinates, reads painted pixels, and saves the screen as a PNG when a
@@ -40,6 +43,9 @@ std::uint32_t argb(const Colour& c);
 // How many pixels of `box` (the glob's coordinates) have red, green and blue each
 // within `tolerance` of the colour's; alpha is left aside.
 int countPixels(const Glob* g, const BoxInt& box, const Colour& colour, int tolerance = 0);
+// The same in a picture, such as a program's screenshot read back, with `box`
+// counted from the picture's bottom left as the screen counts.
+int countPixels(const iHostImage& picture, const BoxInt& box, const Colour& colour, int tolerance = 0);
 
 // Passes when the glob's pixel is within `tolerance` per channel of `expected`;
 // on failure the screen and the glob's canvas are written out as PNG files.
@@ -47,6 +53,14 @@ int countPixels(const Glob* g, const BoxInt& box, const Colour& colour, int tole
 ::testing::AssertionResult screenPixelNear(int x, int y, std::uint32_t expected, int tolerance = 0);
 // Writes the screen to NAME.png in the output folder; returns the path.
 LightweightString<char> saveScreen(const char* name);
+
+// A program run by a test: its exit status (-1 when it did not exit) and what it
+// wrote on standard output.
+struct ProgramRun {
+    int status = -1;
+    std::string output;
+};
+ProgramRun runProgram(const std::string& commandLine);
 
 // Owns a top-level glob for the length of a test.
 template <class T>
