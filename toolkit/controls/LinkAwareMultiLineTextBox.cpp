@@ -1,6 +1,7 @@
 #include "LinkAwareMultiLineTextBox.h"
 
 #include "draw/CanvasRenderer.h"
+#include "draw/HTMLRenderer.h"
 #include "platform/OS.h"
 
 #include <algorithm>
@@ -62,7 +63,8 @@ void LinkAwareMultiLineTextBox::textEdited() {
 }
 
 const LinkAwareMultiLineTextBox::Link* LinkAwareMultiLineTextBox::linkAt(XY<int> p) const {
-    if (isObfuscatedDisplay() || links_.empty() || !insideFrame().contains(p)) return nullptr;
+    // The links' places are those of the plain text, which mark-up does not show.
+    if (isObfuscatedDisplay() || links_.empty() || !insideFrame().contains(p) || showsMarkup()) return nullptr;
     XY<int> at = toLayout(p);
     for (const Link& link : links_)
         for (const Glib::TextLayout::Rect& r : layout().rangeBoxes(link.start, link.end))
@@ -101,6 +103,16 @@ MouseCursorID LinkAwareMultiLineTextBox::contextCursor(const XY<int>& p) const {
 }
 
 void LinkAwareMultiLineTextBox::openLink(const LightweightString<wchar_t>& url) { OS()->openWithDefaultApplication(url); }
+
+bool LinkAwareMultiLineTextBox::showsMarkup() const { return !isEditable() && HTMLRenderer::isHTML(getString()); }
+
+void LinkAwareMultiLineTextBox::drawText() {
+    if (!showsMarkup()) {
+        MultiLineTextBox::drawText();
+        return;
+    }
+    HTMLRenderer::render(canvas(), HTMLRenderer::parse(getString(), getPalette()), textArea(), Glib::TextLayout::emptyLineHeight(getFont()));
+}
 
 void LinkAwareMultiLineTextBox::decorateText(const BoxInt& clip) {
     if (isObfuscatedDisplay() || links_.empty()) return;

@@ -9,6 +9,9 @@
 // open with the desktop's default application when clicked. In a box that is
 // not editable a plain click opens a link; in an editable one, Control and a
 // click, so that a plain click can still place the caret.
+//
+// A box that is not editable and holds mark-up (HTMLRenderer::isHTML) shows it
+// styled, as a label does; its addresses are then not links.
 class LinkAwareMultiLineTextBox : public MultiLineTextBox {
 public:
     using InitArgs = MultiLineTextBox::InitArgs;
@@ -36,11 +39,13 @@ public:
 protected:
     // Opens the address with the desktop's default application.
     virtual void openLink(const LightweightString<wchar_t>& url);
+    void drawText() override;
     void decorateText(const BoxInt& clip) override;
     void textEdited() override;
 
 private:
     bool opensOnClick(unsigned modifiers) const;
+    bool showsMarkup() const;
 
     std::vector<Link> links_;
     int pressed_ = -1; // the link the button went down on

@@ -223,3 +223,19 @@ TEST_F(MultiLineTextBoxTest, LinksAreDrawnAsLinksAndOpenOnAClick) {
     TestKit::click(TestKit::screenPointOf(box, {x1 + 3, box->height() - l.height() / 2}), Event::kLeft, Modifiers::Control);
     EXPECT_EQ(box->opened.size(), 2u);
 }
+
+TEST_F(MultiLineTextBoxTest, MarkUpInALabelIsShownStyledAndInAnEditableBoxAsTyped) {
+    const wchar_t* text = L"<b>Bold</b> and plain";
+    auto* box = addBox<LinkAwareMultiLineTextBox>(text, 360, 1);
+    box->setEditable(false);
+    box->setMargin(0);
+    box->redraw();
+    const Colour ink = box->getPalette().text();
+    const int shown = Glib::TextLayout(L"Bold and plain", box->getFont(), 0).width();
+    const BoxInt words(0, 0, shown, box->height()), beyond(shown * 5 / 4, 0, box->width(), box->height());
+    EXPECT_GT(countPixels(box, words, ink, 60), 20);
+    EXPECT_EQ(countPixels(box, beyond, ink, 60), 0) << "the tags are not drawn";
+    box->setEditable(true);
+    box->redraw();
+    EXPECT_GT(countPixels(box, beyond, ink, 60), 0) << "an editable box shows the text as it is";
+}
