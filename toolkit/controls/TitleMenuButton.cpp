@@ -27,7 +27,7 @@ void TitleMenuButton::layoutButton() {
     if (w == 0) {
         // As wide as the widest entry needs, but not over the title unless the
         // title would leave the button less than half the row.
-        int titleRoom = titleText_.empty() ? 0 : Glib::measureText(titleText_.getString(), getFont()).x + u.getWidgetGap();
+        int titleRoom = titleText_.empty() ? 0 : Glib::measureText(titleText_.getString(), getFont()).x + 2 * u.getWidgetGap();
         w = std::min(DropDownMenuButton::calcWidth(button_->getItems(), button_->getFont()), std::max(width() / 2, width() - titleRoom));
     }
     w = std::clamp(w, 0, width());
@@ -66,9 +66,11 @@ void TitleMenuButton::setActive(bool active, eRedrawFlag flag) {
 
 void TitleMenuButton::drawBackground() {
     StandardPanel::drawBackground();
-    const int right = button_->getX() - UifStd::instance().getWidgetGap();
-    if (titleText_.empty() || right <= 0) return;
-    Glib::TextDescription t(BoxInt(0, 0, right, height()), titleText_.getString(), getFont(),
+    const int gap = UifStd::instance().getWidgetGap();
+    const int right = button_->getX() - gap;
+    if (titleText_.empty() || right <= gap) return;
+    // Indented as the legends of other titled rows are, so that a panel's legends line up.
+    Glib::TextDescription t(BoxInt(gap, 0, right, height()), titleText_.getString(), getFont(),
                             getPalette().text(isActive() ? kTextNormal : kTextDimmed));
     t.ellipsize = true;
     CanvasRenderer(canvas()).render(t);
