@@ -208,6 +208,9 @@ XY<int> GlobManager::getPosForGlob(const GlobCreationInfo& info, const WidgetPos
 
 void GlobManager::show(Glob* g, const WidgetPosition& where) {
     if (!g) return;
+    // Nothing comes up larger than the screen, where part of it could not be reached.
+    const Screen& s = screen();
+    if (g->width() > s.width() || g->height() > s.height()) g->resize(std::min(g->width(), s.width()), std::min(g->height(), s.height()));
     GlobCreationInfo info(static_cast<unsigned short>(g->width()), static_cast<unsigned short>(g->height()));
     g->setupRootPos(getPosForGlob(info, where));
     realize(g);

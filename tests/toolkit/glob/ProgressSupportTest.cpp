@@ -6,6 +6,7 @@
 #include "glob/SuspendRefreshOffToggle.h"
 #include "glob/UpdateDeferrer.h"
 #include "glob/glib_getPosForWindow.h"
+#include "glob/makeTopLevel.h"
 
 #include <algorithm>
 
@@ -89,4 +90,7 @@ TEST_F(ProgressSupport, NewWindowsArePlacedWhollyOnTheScreenOrTopFirstWhenTooTal
             EXPECT_LE(at.y + size.y, s.height());
         }
     }
+    // A new panel larger than the screen is cut to it, so that all of it can be reached.
+    TestKit::Owned<StandardPanel> huge(makeTopLevel<StandardPanel>(StandardPanel::InitArgs(5000, 3000), Glob::Centre(0, 0)));
+    EXPECT_EQ(huge->box(), BoxInt(0, 0, s.width(), s.height()));
 }
