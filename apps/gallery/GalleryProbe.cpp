@@ -66,10 +66,13 @@ void GalleryProbe::printRoots(std::FILE* out) {
 }
 
 void GalleryProbe::printWidgets(std::FILE* out) {
-    visitNamed([&](Glob* g) {
-        BoxInt b = windowBox(g);
-        std::fprintf(out, "widget %s %s %d %d %d %d\n", g->name().c_str(), g->idstring(), b.x1, b.y1, b.width(), b.height());
-    });
+    for (Glob* root : GlobManager::instance().roots())
+        root->visitSubtree([&](Glob* g) {
+            BoxInt b = windowBox(g);
+            const char* name = g->name().empty() ? "-" : g->name().c_str();
+            std::fprintf(out, "widget %s %s %d %d %d %d\n", name, g->idstring(), b.x1, b.y1, b.width(), b.height());
+            return true;
+        });
     std::fflush(out);
 }
 

@@ -21,7 +21,8 @@ public:
 
     // "root KIND X Y W H close CX CY": each top-level glob and its close box's centre.
     static void printRoots(std::FILE* out);
-    // "widget NAME KIND X Y W H": each named glob, roots included.
+    // "widget NAME KIND X Y W H": every glob, roots included, with its idstring as
+    // KIND; NAME is "-" for a glob that has none.
     static void printWidgets(std::FILE* out);
 
     bool reporting() const { return !reportPath_.empty(); }
