@@ -71,9 +71,13 @@ UIBuilder::UIBuilder(const ParamList& params, StandardPanel* panel) : panel_(pan
 }
 
 // Rows are not painted one by one as they are made: what they asked for is dropped,
-// and a panel already on the screen is painted once, whole.
+// and a panel already on the screen is painted once, whole. What other globs asked
+// for stands.
 void UIBuilder::endBuild() {
-    Drawable::clearPendingRedraws();
+    Drawable::clearPendingRedraws([this](const Drawable& d) {
+        const auto* g = dynamic_cast<const Glob*>(&d);
+        return g && (g == panel_ || isParentedTo(g, panel_));
+    });
     Drawable::enableRedraws();
     if (panel_ && GlobManager::instance().isRealized(getRootParent(panel_))) panel_->redraw();
 }

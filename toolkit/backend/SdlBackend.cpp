@@ -230,12 +230,13 @@ void SdlBackend::runOnce(int waitMs) {
         while (SDL_PollEvent(&e)) handle(&e);
     }
     GlobManager& gm = GlobManager::instance();
-    gm.processPending();
     auto now = std::chrono::steady_clock::now();
     if (now >= impl_->nextTick) {
         gm.tickTimers();
         impl_->nextTick = now + std::chrono::milliseconds(gm.timerPeriodMs());
     }
+    // After the ticks, so that what they changed is painted before it is shown.
+    gm.processPending();
     updateCursor();
     present();
 }

@@ -234,6 +234,12 @@ void Glob::resize(double width, double height) {
     if (ownCanvas_) ownCanvas_->resize(w_, h_);
     calcAbsoluteWidgetPositions();
     if (parent_) parent_->handleChildResize(this, old);
+    // The new canvas is blank. It is painted once the whole resize is done, since
+    // overrides lay their own furniture out after this returns.
+    if (ownCanvas_ && GlobManager::instance().isRealized(this)) {
+        redrawLater();
+        GlobManager::instance().screenChanged();
+    }
 }
 
 void Glob::handleChildResize(const Glob*, const XY<int>&) { calcAbsoluteWidgetPositions(); }

@@ -305,6 +305,17 @@ TEST_F(UIBuilderList, InAScrollerTheRowsAreStackedByIt) {
     EXPECT_GT(scroller->maxScrollOffset(), 0) << "eight rows do not fit in 120 pixels";
 }
 
+TEST_F(UIBuilderList, ABuildDropsItsRowsPaintsButNotThoseOtherPanelsAskedFor) {
+    Glob* other = new StandardPanel(StandardPanel::InitArgs(60, 60));
+    other->setupRootPos({700, 600});
+    GlobManager::instance().realize(other);
+    Drawable::disableRedraws();
+    other->setCol(Colour(1, 0, 0), true);
+    build({make<BoolParam>(L"Loop", "loop", L"", true)});
+    Drawable::enableRedraws();
+    EXPECT_TRUE(TestKit::pixelNear(other, 30, 30, 0xFFFF0000));
+}
+
 TEST_F(UIBuilderList, PaintedLegendsLineUpInOneColumnAndTheSliderAndBoxSitInTheirPlaces) {
     // Legends that begin with one letter begin with one column of ink when they line up.
     UIBuilder::ParamList params;
