@@ -28,8 +28,8 @@ public:
         box.outline = getPalette().window(kShadeDarkest);
         box.outlineWidth = 1;
         r.render(box);
-        r.render(Glib::TextDescription(BoxInt(0, 0, width(), height()), caption_, UifStd::instance().getDefaultFont(),
-                                       contrastingText(colour_), Glib::kAlignCentreH));
+        r.render(Glib::TextDescription(BoxInt(0, 0, width(), height()), caption_, UifStd::instance().getDefaultFont(), contrastingText(colour_),
+                                       Glib::kAlignCentreH));
     }
 
 private:

@@ -50,7 +50,6 @@ void buildLogger() {
     Drawable::enableRedraws();
 }
 
-GallerySceneRegistration logger("logger", "The log panel fed by a worker thread: every kind of row, a link, a rule, a running gauge",
-                                buildLogger);
+GallerySceneRegistration logger("logger", "The log panel fed by a worker thread: every kind of row, a link, a rule, a running gauge", buildLogger);
 
 } // namespace

@@ -126,7 +126,8 @@ int runWindow(const Options& o) {
 }
 
 void usage() {
-    std::printf("usage: mosaic-gallery [--screenshots DIR] [--scene NAME] [--command NAME] [--list] [--print-roots] [--print-widgets] [--report FILE]\n");
+    std::printf(
+        "usage: mosaic-gallery [--screenshots DIR] [--scene NAME] [--command NAME] [--list] [--print-roots] [--print-widgets] [--report FILE]\n");
     std::printf("Mosaic %s\n", mosaicDllVersionStr());
 }
 

@@ -4,11 +4,11 @@
 #include "Version.h"
 
 #include "backend/SdlBackend.h"
+#include "core/Utf8.h"
 #include "draw/Screen.h"
 #include "glob/GlobManager.h"
 #include "params/UIBuilderExample.h"
 #include "platform/ConfigbFile.h"
-#include "core/Utf8.h"
 
 #include <cstdio>
 #include <cstring>

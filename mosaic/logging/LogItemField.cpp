@@ -47,8 +47,7 @@ int LogItemField::drawField(CellContext& ctx) {
     BoxInt box = ctx.box;
     box.x1 += static_cast<unsigned short>(row->indent * UifStd::instance().getRowHeight()) + TableColumnDescription::textMargin();
     if (HTMLRenderer::isHTML(text)) {
-        if (ctx.draw)
-            HTMLRenderer::render(ctx.canvas, HTMLRenderer::parse(text, ctx.palette), box, rowHeight(ctx), HTMLRenderer::kLeftTop);
+        if (ctx.draw) HTMLRenderer::render(ctx.canvas, HTMLRenderer::parse(text, ctx.palette), box, rowHeight(ctx), HTMLRenderer::kLeftTop);
     } else if (row->numLines < 2) {
         drawLine(ctx, box, text);
     } else if (ctx.draw) {

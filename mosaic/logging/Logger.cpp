@@ -129,7 +129,8 @@ void Logger::makeTable(unsigned short numRows) {
 void Logger::makeGauge() {
     guards_.push_back(log_->registerInterest(makeDeferredCallback(this, &Logger::handleLogProgress), iTaskLog::kProgressInterest));
     int indent = UifStd::instance().getIndentWidth();
-    Gauge::InitArgs a(static_cast<unsigned short>(std::max(1, std::abs(getUserArea().width()) - 2 * indent)), static_cast<unsigned short>(rowHeight()));
+    Gauge::InitArgs a(static_cast<unsigned short>(std::max(1, std::abs(getUserArea().width()) - 2 * indent)),
+                      static_cast<unsigned short>(rowHeight()));
     a.canvas = canvas();
     a.palette = getPalette();
     gauge_ = new Gauge(a);

@@ -173,7 +173,7 @@ void logger_display_progress(Logger* logger, double fraction);
 // Makes and realizes a logger on a log of its own: centred when x is negative,
 // else with its bottom left at (x, y). `filename` is not used: such a logger never
 // saves itself.
-Logger* make_logger(LightweightString<wchar_t> title, bool flag1, LightweightString<wchar_t> filename, bool showProgress,
-                    unsigned short numRows, unsigned short width, int x, int y);
+Logger* make_logger(LightweightString<wchar_t> title, bool flag1, LightweightString<wchar_t> filename, bool showProgress, unsigned short numRows,
+                    unsigned short width, int x, int y);
 // True when `g` is a live logger; safe on a dangling pointer.
 bool is_good_logger_ptr(const Glob* g);

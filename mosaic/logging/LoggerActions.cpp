@@ -28,8 +28,7 @@ namespace {
 
 constexpr ResId kCopyText = 303, kOpenText = 304, kRevealText = 305, kSaveToFileText = 306, kSavedTitle = 309;
 
-WidgetCallback menuAction(Logger* logger, int (Logger::*method)(const NotifyMsg&), bool alwaysDefer,
-                          const LightweightString<char>& message) {
+WidgetCallback menuAction(Logger* logger, int (Logger::*method)(const NotifyMsg&), bool alwaysDefer, const LightweightString<char>& message) {
     Zn::Ptr<iCallbackBase<int, NotifyMsg>> call(new MethodCallback<Logger, NotifyMsg, int>(logger, method));
     auto* deferred = new UIThreadCallback<NotifyMsg>(call, alwaysDefer);
     Zn::Ptr<iCallbackBase<int, NotifyMsg>> result(deferred);
@@ -37,9 +36,7 @@ WidgetCallback menuAction(Logger* logger, int (Logger::*method)(const NotifyMsg&
     return WidgetCallback(result, message);
 }
 
-std::vector<LightweightString<wchar_t>> pathsOf(const NotifyMsg& msg) {
-    return Zn::splitIf(fromUTF8(msg.name()), L',', Zn::kSplitSkipEmpty);
-}
+std::vector<LightweightString<wchar_t>> pathsOf(const NotifyMsg& msg) { return Zn::splitIf(fromUTF8(msg.name()), L',', Zn::kSplitSkipEmpty); }
 
 } // namespace
 
@@ -73,7 +70,8 @@ void Logger::reviewMenu(const Event* e) {
                 for (const auto& target : link.getTargets()) list += (list.empty() ? L"" : L",") + target;
                 LightweightString<char> message = toUTF8(list);
                 setMenuTitle(UIString(stripPath(link.getDescription())));
-                addMenuItem(MenuItem(UIString(resourceStrW(kCopyText)), menuAction(this, &Logger::copyToClipboard, false, message), kMenuItemCommand));
+                addMenuItem(
+                    MenuItem(UIString(resourceStrW(kCopyText)), menuAction(this, &Logger::copyToClipboard, false, message), kMenuItemCommand));
                 addMenuItem(MenuItem(UIString(resourceStrW(kOpenText)), menuAction(this, &Logger::openFile, false, message), kMenuItemCommand));
                 addMenuItem(MenuItem(UIString(resourceStrW(kRevealText)), menuAction(this, &Logger::revealInOS, false, message), kMenuItemCommand));
             }

@@ -55,13 +55,20 @@ UIBuilder::UIBuilder(const ParamList& params, StandardPanel* panel) : panel_(pan
             const Zn::Ptr<iParam> clone = source->clone();
             using namespace GenericParam;
             // FontParam, FileParam and ColourParam rows are made only by createWidgetForParam.
-            if (Zn::dynamicCast<DoubleParam>(clone)) makeFloatWidget(clone, position, surround);
-            else if (Zn::dynamicCast<BoolParam>(clone)) makeBoolWidget(clone, position, surround);
-            else if (Zn::dynamicCast<TextParam>(clone)) makeTextWidget(clone, position, surround);
-            else if (Zn::dynamicCast<ChoiceParam>(clone)) makeChoiceWidget(clone, position, surround);
-            else if (Zn::dynamicCast<LabelParam>(clone)) makeLabelWidget(clone, position, surround);
-            else if (Zn::dynamicCast<IntParam>(clone)) makeIntWidget(clone, position, surround);
-            else if (Zn::dynamicCast<ActionParam>(clone)) makeActionWidget(clone, position, surround);
+            if (Zn::dynamicCast<DoubleParam>(clone))
+                makeFloatWidget(clone, position, surround);
+            else if (Zn::dynamicCast<BoolParam>(clone))
+                makeBoolWidget(clone, position, surround);
+            else if (Zn::dynamicCast<TextParam>(clone))
+                makeTextWidget(clone, position, surround);
+            else if (Zn::dynamicCast<ChoiceParam>(clone))
+                makeChoiceWidget(clone, position, surround);
+            else if (Zn::dynamicCast<LabelParam>(clone))
+                makeLabelWidget(clone, position, surround);
+            else if (Zn::dynamicCast<IntParam>(clone))
+                makeIntWidget(clone, position, surround);
+            else if (Zn::dynamicCast<ActionParam>(clone))
+                makeActionWidget(clone, position, surround);
         }
         wireParams(params);
         enforceConstraints();
@@ -93,7 +100,8 @@ void UIBuilder::wireParams(const ParamList& params) {
         const Zn::AttribValuePair& visibleIf = own->getVisibleIf();
         if (!visibleIf.name().empty() || !visibleIf.value().empty())
             if (Zn::Ptr<iParam> watched = findParam(visibleIf.name()))
-                watched->addChangeHandler(Zn::Ptr<GenericParam::iValueChangeHandler>(new VisibilityConstraint(widgetFor(id), fromUTF8(visibleIf.value()))));
+                watched->addChangeHandler(
+                    Zn::Ptr<GenericParam::iValueChangeHandler>(new VisibilityConstraint(widgetFor(id), fromUTF8(visibleIf.value()))));
         Zn::Ptr<iParam> clone = findParam(id);
         if (!clone) continue;
         if (!own->getGreaterThan().empty())

@@ -2,8 +2,8 @@
 
 #include "controls/CodeEditor.h"
 #include "controls/PushButton.h"
-#include "glob/makeTopLevel.h"
 #include "glob/UifStd.h"
+#include "glob/makeTopLevel.h"
 #include "platform/CommandRegistrar.h"
 #include "platform/JSON.h"
 
@@ -32,9 +32,7 @@ UIBuilderTestPanel::UIBuilderTestPanel(const InitArgs& args) : StandardPanel(arg
     editor_ = createWidget<CodeEditor>(editorArgs, Glob::UserTopLeft(0, 0));
 }
 
-UIBuilderTestPanel* UIBuilderTestPanel::make() {
-    return makeTopLevel<UIBuilderTestPanel>(InitArgs(800, 600), Glob::Centre(0, 0));
-}
+UIBuilderTestPanel* UIBuilderTestPanel::make() { return makeTopLevel<UIBuilderTestPanel>(InitArgs(800, 600), Glob::Centre(0, 0)); }
 
 int UIBuilderTestPanel::handleMessageEvent(const LightweightString<char>& message, Glob* sender) {
     if (message == doItMsg) {

@@ -82,12 +82,12 @@ SdlBackend::SdlBackend() : impl_(std::make_unique<Impl>()) {}
 void SdlBackend::installSystemClipboard() {
     // Text copied in the editor reaches other programs, and theirs reaches text boxes.
     OS()->installClipboard([](const LightweightString<wchar_t>& text) { SDL_SetClipboardText(toUTF8(text).c_str()); },
-                          [] {
-                              char* text = SDL_GetClipboardText();
-                              LightweightString<wchar_t> out = fromUTF8(text ? text : "");
-                              SDL_free(text);
-                              return out;
-                          });
+                           [] {
+                               char* text = SDL_GetClipboardText();
+                               LightweightString<wchar_t> out = fromUTF8(text ? text : "");
+                               SDL_free(text);
+                               return out;
+                           });
 }
 
 void SdlBackend::installFileDrag() {
@@ -127,8 +127,7 @@ bool SdlBackend::open(const char* title) {
     if (impl_->window) return true;
     if (SDL_Init(SDL_INIT_VIDEO) != 0) return false;
     Screen& screen = GlobManager::instance().screen();
-    impl_->window = SDL_CreateWindow(title, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, screen.width(), screen.height(),
-                                     SDL_WINDOW_RESIZABLE);
+    impl_->window = SDL_CreateWindow(title, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, screen.width(), screen.height(), SDL_WINDOW_RESIZABLE);
     if (!impl_->window) {
         SDL_Quit();
         return false;
@@ -137,10 +136,10 @@ bool SdlBackend::open(const char* title) {
     if (!impl_->renderer) impl_->renderer = SDL_CreateRenderer(impl_->window, -1, SDL_RENDERER_SOFTWARE);
     // SDL has no cursors of its own for dragging a marker or picking a colour: a
     // hand and a crosshair stand in.
-    static const SDL_SystemCursor shapes[] = {SDL_SYSTEM_CURSOR_ARROW, SDL_SYSTEM_CURSOR_IBEAM, SDL_SYSTEM_CURSOR_CROSSHAIR,
-                                              SDL_SYSTEM_CURSOR_SIZEALL, SDL_SYSTEM_CURSOR_HAND,  SDL_SYSTEM_CURSOR_HAND,
-                                              SDL_SYSTEM_CURSOR_SIZEWE, SDL_SYSTEM_CURSOR_SIZENS, SDL_SYSTEM_CURSOR_WAIT,
-                                              SDL_SYSTEM_CURSOR_NO,    SDL_SYSTEM_CURSOR_CROSSHAIR};
+    static const SDL_SystemCursor shapes[] = {SDL_SYSTEM_CURSOR_ARROW,   SDL_SYSTEM_CURSOR_IBEAM,    SDL_SYSTEM_CURSOR_CROSSHAIR,
+                                              SDL_SYSTEM_CURSOR_SIZEALL, SDL_SYSTEM_CURSOR_HAND,     SDL_SYSTEM_CURSOR_HAND,
+                                              SDL_SYSTEM_CURSOR_SIZEWE,  SDL_SYSTEM_CURSOR_SIZENS,   SDL_SYSTEM_CURSOR_WAIT,
+                                              SDL_SYSTEM_CURSOR_NO,      SDL_SYSTEM_CURSOR_CROSSHAIR};
     static_assert(std::size(shapes) == std::extent_v<decltype(Impl::cursors)>);
     for (std::size_t i = 0; i < std::size(shapes); ++i) impl_->cursors[i] = SDL_CreateSystemCursor(shapes[i]);
     SDL_StartTextInput();

@@ -4,9 +4,7 @@
 #include "glob/UifStd.h"
 #include "glob/fireCallback.h"
 
-Button::Button(const InitArgs& args) : Clickable(args), callback_(args.callback), label_(args.label) {
-    font_ = UifStd::instance().getDefaultFont();
-}
+Button::Button(const InitArgs& args) : Clickable(args), callback_(args.callback), label_(args.label) { font_ = UifStd::instance().getDefaultFont(); }
 
 void Button::setLabel(const UIString& label, eRedrawFlag flag) {
     label_ = label;

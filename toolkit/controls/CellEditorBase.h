@@ -1,8 +1,8 @@
 #pragma once
 
-#include "iCellEditor.h"
 #include "glob/Glob.h"
 #include "glob/Messaging.h"
+#include "iCellEditor.h"
 
 // The part of a cell editor that edits with one widget of type W: it keeps the
 // widget by stamp, so a widget that its table has deleted is never touched, and a

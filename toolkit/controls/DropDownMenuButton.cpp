@@ -207,7 +207,9 @@ int DropDownMenuButton::calcWidth(const std::vector<MenuItem>& rows, const Glib:
 
 int DropDownMenuButton::calcWidth(const std::vector<UIString>& entries, const Glib::FontDesc& font) { return calcWidth(rowsOf(entries), font); }
 
-int DropDownMenuButton::calcWidth(const UIString& entry, const Glib::FontDesc& font) { return calcWidth(std::vector<MenuItem>{MenuItem(entry)}, font); }
+int DropDownMenuButton::calcWidth(const UIString& entry, const Glib::FontDesc& font) {
+    return calcWidth(std::vector<MenuItem>{MenuItem(entry)}, font);
+}
 
 BoxInt DropDownMenuButton::labelBox() const {
     const int gap = UifStd::instance().getWidgetGap();

@@ -1,9 +1,9 @@
 #include "FileBrowser.h"
 
 #include "glob/GlobManager.h"
-#include "glob/makeTopLevel.h"
 #include "glob/Messaging.h"
 #include "glob/UifStd.h"
+#include "glob/makeTopLevel.h"
 #include "platform/ResourceStrings.h"
 
 #include <algorithm>

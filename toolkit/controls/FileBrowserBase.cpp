@@ -354,8 +354,7 @@ void FileBrowserBase::activateRow(int row) {
 void FileBrowserBase::setFilterChoice(int index) {
     if (index < 0 || index >= numFilterChoices() || state_ != kBrowsing) return;
     filterChoice_ = index;
-    if (filterButton_ && filterButton_->getSelectedItem() != index)
-        filterButton_->setSelectedItem(MenuItemIndex(static_cast<unsigned short>(index)));
+    if (filterButton_ && filterButton_->getSelectedItem() != index) filterButton_->setSelectedItem(MenuItemIndex(static_cast<unsigned short>(index)));
     const FBItem* current = table_ ? listing_.item(table_->getCurPos().y) : nullptr;
     const NStr focus = current ? current->nativePath : NStr();
     listing_.setFilter(filterChoices_[static_cast<std::size_t>(index)], mode_ == kFolder);
@@ -443,8 +442,7 @@ void FileBrowserBase::deliver(const PathList& answer) {
     GlobManager::instance().removeModalGlob(this);
     if (EventHandler* owner = ownerHandler()) {
         if (chosen) sendMessageWithData(fileBrowserSelectedMsg, owner, payload, this);
-        if (!function && !callback_.message().empty() && !(chosen && name == fileBrowserSelectedMsg))
-            sendMessageWithData(name, owner, payload, this);
+        if (!function && !callback_.message().empty() && !(chosen && name == fileBrowserSelectedMsg)) sendMessageWithData(name, owner, payload, this);
     }
     // The owner's message is delivered before this one, so the owner still finds the browser.
     if (chosen)

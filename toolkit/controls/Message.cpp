@@ -40,8 +40,8 @@ Message::Message(const InitArgs& args, const std::vector<UIString>& labels, cons
     const std::vector<UIString> shown = orOk(labels);
     const UIString title = orDefaultTitle(args.title, kInformationId);
     if (args.width <= 0 || args.height <= 0) {
-        const int buttons = static_cast<int>(shown.size()) * calcButtonWidth(shown) +
-                            static_cast<int>(shown.size() - 1) * UifStd::instance().getWidgetGap();
+        const int buttons =
+            static_cast<int>(shown.size()) * calcButtonWidth(shown) + static_cast<int>(shown.size() - 1) * UifStd::instance().getWidgetGap();
         const XY<int> size = calcSize(title, text_, buttons);
         resize(args.width > 0 ? args.width : size.x, args.height > 0 ? args.height : size.y);
     }
@@ -145,8 +145,7 @@ void Message::drawBackground() {
     const BoxInt box = textBox();
     const LightweightString<wchar_t> s = text_.getString();
     if (box.isEmpty() || s.empty()) return;
-    Glib::WordWrappingTextRenderer(s, UifStd::instance().getDefaultFont(), box.width())
-        .render(canvas(), box, getPalette().text(), lineHeight());
+    Glib::WordWrappingTextRenderer(s, UifStd::instance().getDefaultFont(), box.width()).render(canvas(), box, getPalette().text(), lineHeight());
 }
 
 int Message::handleKeyboardEvent(int keyCode) {

@@ -33,9 +33,7 @@ std::optional<double> NumericTextBox::parse(const LightweightString<wchar_t>& te
     return value;
 }
 
-double NumericTextBox::constrained(double value) const {
-    return range_ ? DataConvert::constrain(value, range_->first, range_->second) : value;
-}
+double NumericTextBox::constrained(double value) const { return range_ ? DataConvert::constrain(value, range_->first, range_->second) : value; }
 
 double NumericTextBox::getValue() const {
     if (auto v = parse(getString())) return constrained(*v);

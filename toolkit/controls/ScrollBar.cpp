@@ -2,8 +2,8 @@
 
 #include "ArrowGlyph.h"
 #include "draw/CanvasRenderer.h"
-#include "glob/Messaging.h"
 #include "glob/GlobManager.h"
+#include "glob/Messaging.h"
 #include "glob/UifStd.h"
 
 #include <algorithm>

@@ -3,9 +3,9 @@
 #include "ScrollBar.h"
 #include "draw/Canvas.h"
 #include "draw/CanvasRenderer.h"
-#include "glob/fireCallback.h"
 #include "glob/GlobManager.h"
 #include "glob/UifStd.h"
+#include "glob/fireCallback.h"
 
 #include <algorithm>
 #include <cmath>
@@ -24,8 +24,8 @@ constexpr int kWheelRows = 3;
 
 ScrollList::ScrollList(const InitArgs& args)
     : StandardPanel(args), items_(args.items), selected_(args.items.size(), false),
-      lineHeight_(args.lineHeight ? args.lineHeight : static_cast<unsigned short>(UifStd::instance().getRowHeight())),
-      multi_(args.multiSelect), onSelect_(args.selectionCallback), onActivate_(args.activationCallback) {
+      lineHeight_(args.lineHeight ? args.lineHeight : static_cast<unsigned short>(UifStd::instance().getRowHeight())), multi_(args.multiSelect),
+      onSelect_(args.selectionCallback), onActivate_(args.activationCallback) {
     ScrollBar::InitArgs bar(ScrollBar::kVertical, static_cast<unsigned short>(std::max(0, getUserArea().height())));
     bar.canvas = canvas();
     bar.palette = getPalette();

@@ -130,7 +130,8 @@ void Slider::drawBackground() {
         double x = xOf(pointOfInterest_);
         r.render(Glib::LineDescription({x, double(mid - r0)}, {x, double(mid - track)}, p.text(kTextDimmed)));
     }
-    Glib::EllipseDescription thumb({double(thumbX), double(mid)}, {double(r0), double(r0)}, isActive() ? p.window(kShadeLightest) : p.window(kShadeLight));
+    Glib::EllipseDescription thumb({double(thumbX), double(mid)}, {double(r0), double(r0)},
+                                   isActive() ? p.window(kShadeLightest) : p.window(kShadeLight));
     r.render(thumb);
     Glib::EllipseDescription ring(thumb.centre, thumb.radii, hasKbdFocus() ? p.selection(kSelectionFocused) : p.window(kShadeDarker), false);
     ring.lineWidth = hasKbdFocus() ? 2.0 : 1.0;

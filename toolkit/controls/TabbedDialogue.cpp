@@ -7,9 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-TabbedDialogue::TabbedDialogue(const InitArgs& args) : StandardPanel(args), flags_(args.flags) {
-    font_ = UifStd::instance().getDefaultFont();
-}
+TabbedDialogue::TabbedDialogue(const InitArgs& args) : StandardPanel(args), flags_(args.flags) { font_ = UifStd::instance().getDefaultFont(); }
 
 int TabbedDialogue::tabHeight(unsigned int flags) {
     const int row = UifStd::instance().getRowHeight();
@@ -222,8 +220,7 @@ int TabbedDialogue::handleKeyboardEvent(int keyCode) {
 
 int TabbedDialogue::intercept(const Event& e) {
     // Ctrl+Tab belongs to the dialogue even while a control on a page has the focus.
-    if (!(flags_ & kKeyboardTabs) || e.type() != Event::kKeyPress || Keys::plain(e.keyCode()) != Keys::Tab ||
-        !(e.modifiers() & Modifiers::Control))
+    if (!(flags_ & kKeyboardTabs) || e.type() != Event::kKeyPress || Keys::plain(e.keyCode()) != Keys::Tab || !(e.modifiers() & Modifiers::Control))
         return 0;
     return stepTab(e.modifiers()) ? 1 : 0;
 }

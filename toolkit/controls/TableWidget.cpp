@@ -31,8 +31,8 @@ int minColumnWidth() { return 2 * TableColumnDescription::textMargin() + UifStd:
 } // namespace
 
 TableWidget::TableWidget(const InitArgs& args)
-    : StandardPanel(StandardPanel::InitArgs(args, Border(Border::kNoBorder, 0, 15))), adaptor_(args.adaptor),
-      textEditor_(new WStringEditor), rowHeight_(args.rowHeight ? args.rowHeight : UifStd::instance().getRowHeight()),
+    : StandardPanel(StandardPanel::InitArgs(args, Border(Border::kNoBorder, 0, 15))), adaptor_(args.adaptor), textEditor_(new WStringEditor),
+      rowHeight_(args.rowHeight ? args.rowHeight : UifStd::instance().getRowHeight()),
       headerHeight_(args.headerLines * UifStd::instance().getRowHeight() / 2) {
     ScrollBar::InitArgs bar(ScrollBar::kVertical, static_cast<unsigned short>(std::max(0, bodyBox().height())));
     bar.canvas = canvas();

@@ -45,8 +45,8 @@ int frameWidth() { return std::max(1, static_cast<int>(std::lround(UifStd::insta
 } // namespace
 
 TextBoxBase::TextBoxBase(const GlobCreationInfo& info, const LightweightString<wchar_t>& text)
-    : StandardPanel(StandardPanel::InitArgs(info, Border(Border::kNoBorder, 0, 15))), text_(text), committed_(text),
-      caret_(text.size()), anchor_(text.size()), margin_(defaultMargin()) {}
+    : StandardPanel(StandardPanel::InitArgs(info, Border(Border::kNoBorder, 0, 15))), text_(text), committed_(text), caret_(text.size()),
+      anchor_(text.size()), margin_(defaultMargin()) {}
 
 TextBoxBase::~TextBoxBase() = default;
 
@@ -362,8 +362,8 @@ bool TextBoxBase::fireCallback(eCallbackEvent event) {
         targetStamp = owner ? owner->stamp() : IdStamp();
     }
     if (!target) return true;
-    sendMessageWithData(kCallbackRelayMsg, this,
-                        Zn::Ptr<iObject>(new CallbackRelay(c.callback.message(), target, targetStamp, c.callback.payload())), this);
+    sendMessageWithData(kCallbackRelayMsg, this, Zn::Ptr<iObject>(new CallbackRelay(c.callback.message(), target, targetStamp, c.callback.payload())),
+                        this);
     return true;
 }
 
@@ -380,8 +380,7 @@ int TextBoxBase::handleDataMessageEvent(const LightweightString<char>& message, 
     for (const auto& [handler, handlerStamp] : chain) {
         if (!EventHandler::valid(handler, handlerStamp)) continue;
         iObject* from = EventHandler::valid(this, me) ? this : nullptr;
-        int taken = relay->payload ? callMessageWithData(relay->message, handler, relay->payload, from)
-                                   : callMessage(relay->message, handler, from);
+        int taken = relay->payload ? callMessageWithData(relay->message, handler, relay->payload, from) : callMessage(relay->message, handler, from);
         if (taken) break;
     }
     return 1;
@@ -498,9 +497,7 @@ int TextBoxBase::handleMouseEvent(const Event& e) {
     return mouse_left_event(e) ? 1 : 0;
 }
 
-MouseCursorID TextBoxBase::contextCursor(const XY<int>& p) const {
-    return editable_ && isActive() ? kCursorIBeam : StandardPanel::contextCursor(p);
-}
+MouseCursorID TextBoxBase::contextCursor(const XY<int>& p) const { return editable_ && isActive() ? kCursorIBeam : StandardPanel::contextCursor(p); }
 
 // ---- layout and painting ------------------------------------------------------
 
@@ -517,9 +514,7 @@ const Glib::TextLayout& TextBoxBase::layout() const {
     return *layout_;
 }
 
-LightweightString<wchar_t> TextBoxBase::displayText() const {
-    return obfuscated_ ? LightweightString<wchar_t>(text_.size(), kBullet) : text_;
-}
+LightweightString<wchar_t> TextBoxBase::displayText() const { return obfuscated_ ? LightweightString<wchar_t>(text_.size(), kBullet) : text_; }
 
 BoxInt TextBoxBase::textArea() const {
     int m = std::min({margin_, width() / 2, height() / 2});
@@ -573,9 +568,9 @@ void TextBoxBase::drawText() {
         if (!hasKbdFocus() && !placeholder_.empty()) {
             Glib::TextLayout hint(placeholder_.getString(), getFont(), wrapWidth());
             // An empty text has no width to align, so the hint aligns itself.
-            int shift = alignment_.horizontal == Glib::kAlignRight ? hint.width()
-                        : alignment_.horizontal == Glib::kAlignCentreH    ? hint.width() / 2
-                                                                              : 0;
+            int shift = alignment_.horizontal == Glib::kAlignRight     ? hint.width()
+                        : alignment_.horizontal == Glib::kAlignCentreH ? hint.width() / 2
+                                                                       : 0;
             hint.render(canvas(), o.x - (wrapWidth() > 0 ? 0 : shift), o.y, clip, p.text(kTextDimmed));
         }
     } else {

@@ -107,8 +107,7 @@ void Tooltips::observe(const Event& e) {
             if (!o || !o->isShowing() || ownerOf(gm.input().hover()) != o) close();
             return;
         }
-        if (o && !suppressed_ && !buttonDown_ && o->isShowing() && ownerOf(gm.input().hover()) == o && msecsNow() - restSince_ >= delayMs)
-            open(o);
+        if (o && !suppressed_ && !buttonDown_ && o->isShowing() && ownerOf(gm.input().hover()) == o && msecsNow() - restSince_ >= delayMs) open(o);
         return;
     }
     default: return;

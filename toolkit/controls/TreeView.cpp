@@ -55,7 +55,9 @@ void TreeView::rebuild() {
     Drawable::enableRedraws();
 }
 
-TreeView::ItemId TreeView::itemAtRow(int row) const { return row >= 0 && row < static_cast<int>(rows_.size()) ? rows_[static_cast<std::size_t>(row)].id : 0; }
+TreeView::ItemId TreeView::itemAtRow(int row) const {
+    return row >= 0 && row < static_cast<int>(rows_.size()) ? rows_[static_cast<std::size_t>(row)].id : 0;
+}
 
 int TreeView::depthOfRow(int row) const { return row >= 0 && row < static_cast<int>(rows_.size()) ? rows_[static_cast<std::size_t>(row)].depth : 0; }
 

@@ -51,9 +51,7 @@ BoxInt WStringEditor::draw(CellContext& ctx, const LightweightString<wchar_t>& t
                                                              : inner;
     XY<int> size = Glib::measureText(text, font);
     int width = std::min(size.x, band.width());
-    int x1 = align == Glib::kAlignCentreH ? band.x1 + (band.width() - width) / 2
-             : align == Glib::kAlignRight ? band.x2 - width
-                                          : band.x1;
+    int x1 = align == Glib::kAlignCentreH ? band.x1 + (band.width() - width) / 2 : align == Glib::kAlignRight ? band.x2 - width : band.x1;
     int top = band.y2 - (band.height() - size.y) / 2;
     BoxInt used(x1, top - size.y, x1 + width, top);
     if (!ctx.draw || !visible || !ctx.canvas) return used;

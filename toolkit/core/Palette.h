@@ -16,8 +16,8 @@ public:
     enum Slot { kWindow, kText, kSelection, kChildWindow, kDoIt, kWarning, kSubheading, kNumSlots };
 
     Palette();
-    Palette(const Colour& window, const Colour& text, const Colour& selection, const Colour& childWindow,
-            const Colour& doIt, const Colour& warning, const Colour& subheading, float shadeStep = 0.08f);
+    Palette(const Colour& window, const Colour& text, const Colour& selection, const Colour& childWindow, const Colour& doIt, const Colour& warning,
+            const Colour& subheading, float shadeStep = 0.08f);
 
     Colour window(eWindowShade shade = kShadeNormal) const;
     // The int forms take numbers from outside; one that names nothing gives the default.

@@ -77,8 +77,7 @@ struct TextDescription {
     bool ellipsize = false;
 
     TextDescription() = default;
-    TextDescription(const BoxInt& b, const LightweightString<wchar_t>& t, const FontDesc& f, const Colour& c,
-                    eHorizontalAlign a = kAlignLeft)
+    TextDescription(const BoxInt& b, const LightweightString<wchar_t>& t, const FontDesc& f, const Colour& c, eHorizontalAlign a = kAlignLeft)
         : box(b), text(t), font(f), colour(c), align(a) {}
 };
 

@@ -9,7 +9,6 @@
 #include <cmath>
 #include <string>
 
-
 namespace {
 
 using Paragraph = HTMLRenderer::Paragraph;

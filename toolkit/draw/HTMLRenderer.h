@@ -29,9 +29,7 @@ public:
         bool underline = false;
         LightweightString<wchar_t> link; // the href of an <a>, empty elsewhere
 
-        bool sameStyle(const Run& o) const {
-            return font == o.font && colour == o.colour && underline == o.underline && link == o.link;
-        }
+        bool sameStyle(const Run& o) const { return font == o.font && colour == o.colour && underline == o.underline && link == o.link; }
     };
 
     struct Paragraph {

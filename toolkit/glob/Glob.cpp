@@ -1,17 +1,17 @@
 #include "Glob.h"
 
 #include "GlobManager.h"
+#include "InputDispatcher.h"
 #include "Messaging.h"
 #include "draw/Canvas.h"
 #include "draw/CanvasRenderer.h"
 #include "draw/Screen.h"
 #include "draw/StateSaver.h"
-#include "InputDispatcher.h"
 
 #include <algorithm>
 #include <cstdlib>
-#include <string>
 #include <mutex>
+#include <string>
 #include <unordered_set>
 
 namespace {

@@ -276,8 +276,7 @@ bool GlobManager::processPending() {
 }
 
 void GlobManager::runUntilIdle(int maxRounds) {
-    for (int i = 0; i < maxRounds && processPending(); ++i) {
-    }
+    for (int i = 0; i < maxRounds && processPending(); ++i) {}
     compose();
 }
 

@@ -46,8 +46,7 @@ public:
         case kPin: r.render(Glib::EllipseDescription({width() / 2.0, height() / 2.0}, {w / 4.0, h / 4.0}, ink, true)); break;
         case kFlip: r.render(Glib::RectDescription(BoxInt(m, m, width() - m, height() - m), ink)); break;
         case kGrip:
-            for (int k = 0; k < 3; ++k)
-                r.render(Glib::LineDescription({double(w - 3 * k - 3), 0.0}, {double(w), double(3 * k + 3)}, ink));
+            for (int k = 0; k < 3; ++k) r.render(Glib::LineDescription({double(w - 3 * k - 3), 0.0}, {double(w), double(3 * k + 3)}, ink));
             break;
         }
     }
@@ -73,8 +72,8 @@ private:
     bool hot_ = false;
 };
 
-constexpr int kFurnitureBits = StandardPanel::kCloseBox | StandardPanel::kCogsButton | StandardPanel::kFlipSizeButton |
-                               StandardPanel::kDoItButton | StandardPanel::kPinButton;
+constexpr int kFurnitureBits =
+    StandardPanel::kCloseBox | StandardPanel::kCogsButton | StandardPanel::kFlipSizeButton | StandardPanel::kDoItButton | StandardPanel::kPinButton;
 
 } // namespace
 

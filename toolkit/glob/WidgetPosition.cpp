@@ -8,9 +8,9 @@ namespace {
 
 // In the order of the enumerations, so that a name's index is its number.
 const std::array<const char*, 18> kOriginNames = {
-    "SiblingRelative", "BottomLeft",   "TopLeft",    "TopRight",         "BottomRight",   "UserBottomLeft",
-    "UserTopLeft",     "UserTopRight", "UserBottomRight", "Centre",      "LeftCentre",    "RightCentre",
-    "BottomCentre",    "TopCentre",    "UserCentre", "UserBottomCentre", "UserTopCentre", "None",
+    "SiblingRelative", "BottomLeft",   "TopLeft",         "TopRight",         "BottomRight",   "UserBottomLeft",
+    "UserTopLeft",     "UserTopRight", "UserBottomRight", "Centre",           "LeftCentre",    "RightCentre",
+    "BottomCentre",    "TopCentre",    "UserCentre",      "UserBottomCentre", "UserTopCentre", "None",
 };
 const std::array<const char*, 5> kRelativityNames = {"None", "LeftOf", "RightOf", "Above", "Below"};
 

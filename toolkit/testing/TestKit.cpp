@@ -9,9 +9,9 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <sys/wait.h>
 #include <filesystem>
 #include <sstream>
+#include <sys/wait.h>
 
 namespace TestKit {
 
@@ -175,8 +175,8 @@ ProgramRun runProgram(const std::string& commandLine) {
         std::string canvasShot = (std::filesystem::path(shot.str()).parent_path() / (base + "_canvas.png")).string();
         writeCanvasPNG(*g->canvas(), canvasShot.c_str());
     }
-    return ::testing::AssertionFailure() << "pixel (" << x << ", " << y << ") of " << (g ? g->idstring() : "null") << " is "
-                                         << hex(got) << ", expected " << hex(expected) << "; screen saved to " << shot.str();
+    return ::testing::AssertionFailure() << "pixel (" << x << ", " << y << ") of " << (g ? g->idstring() : "null") << " is " << hex(got)
+                                         << ", expected " << hex(expected) << "; screen saved to " << shot.str();
 }
 
 ::testing::AssertionResult screenPixelNear(int x, int y, std::uint32_t expected, int tolerance) {

@@ -118,7 +118,7 @@ TEST_F(LoggerFixture, ClickingALinkOpensPagesAndEditListsAndRevealsOtherFiles) {
     for (int r = 0; r < l->rowCount(); ++r) TestKit::click(rowPoint(l, r));
     TestKit::pump();
     std::vector<std::string> want = {"xdg-open " + folder + "/cut.EDL", "xdg-open " + folder + "/page.html", "xdg-open " + folder + "/PAGE.HTML",
-                                     "xdg-open " + folder + "/", "xdg-open " + folder + "/", "xdg-open HTTPS://example.org/clip.mov",
+                                     "xdg-open " + folder + "/",        "xdg-open " + folder + "/",          "xdg-open HTTPS://example.org/clip.mov",
                                      "xdg-open www.example.org"};
     EXPECT_EQ(launched, want) << "text and .htm files are shown in their folder, not opened";
 

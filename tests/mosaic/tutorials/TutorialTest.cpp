@@ -182,7 +182,13 @@ TEST_F(TutorialFile, ModifiersAreWrittenInOrderReadByNameAndOnlyAdded) {
     t.save(path("m.ZnTutorial"));
     std::string text = read(path("m.ZnTutorial"));
     EXPECT_NE(text.find("\"modifiers\""), std::string::npos) << "an unknown bit still gives the array";
-    EXPECT_EQ(JSON::parseFile(path("m.ZnTutorial"))->getChild("phases")->getChild(static_cast<unsigned short>(0))->getChild("action")->getChild("modifiers")->getNumStringAttribs(), 0);
+    EXPECT_EQ(JSON::parseFile(path("m.ZnTutorial"))
+                  ->getChild("phases")
+                  ->getChild(static_cast<unsigned short>(0))
+                  ->getChild("action")
+                  ->getChild("modifiers")
+                  ->getNumStringAttribs(),
+              0);
 
     p->action.modifiers = Modifiers::Alt | Modifiers::Cmd | Modifiers::Control | Modifiers::Shift;
     t.save(path("m.ZnTutorial"));

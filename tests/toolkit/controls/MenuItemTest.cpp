@@ -6,9 +6,12 @@
 namespace {
 
 std::vector<MenuItem> formatRows() {
-    return {MenuItem(UIString(L"High definition"), {}, kMenuItemHeading), MenuItem(UIString(L"1080p25")), MenuItem(UIString(L"720p50")),
+    return {MenuItem(UIString(L"High definition"), {}, kMenuItemHeading),
+            MenuItem(UIString(L"1080p25")),
+            MenuItem(UIString(L"720p50")),
             MenuItem(),
-            MenuItem(UIString(L"Standard definition"), {}, kMenuItemHeading), MenuItem(UIString(L"PAL||720x576"))};
+            MenuItem(UIString(L"Standard definition"), {}, kMenuItemHeading),
+            MenuItem(UIString(L"PAL||720x576"))};
 }
 
 } // namespace

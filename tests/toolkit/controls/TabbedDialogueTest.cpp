@@ -1,6 +1,6 @@
+#include "controls/TabbedDialogue.h"
 #include "PanelsTestSupport.h"
 #include "controls/Button.h"
-#include "controls/TabbedDialogue.h"
 #include "glob/UifStd.h"
 
 #include <algorithm>
@@ -69,7 +69,8 @@ TEST_F(Tabs, TheFirstTabShowsAndEachPageFillsThePageArea) {
     tabs->resize(420, 200);
     EXPECT_EQ(pages[2]->box(), tabs->pageBox()) << "pages follow the dialogue's size";
     EXPECT_EQ(tabs->pageBox().width(), 420 - 2 * TabbedDialogue::calcBorderSize());
-    EXPECT_EQ(TabbedDialogue::calcHeightForContents(100, TabbedDialogue::tabHeight(0)), 100 + TabbedDialogue::tabHeight(0) + 2 * TabbedDialogue::calcBorderSize());
+    EXPECT_EQ(TabbedDialogue::calcHeightForContents(100, TabbedDialogue::tabHeight(0)),
+              100 + TabbedDialogue::tabHeight(0) + 2 * TabbedDialogue::calcBorderSize());
     EXPECT_GT(TabbedDialogue::tabHeight(TabbedDialogue::kTallTabs), TabbedDialogue::tabHeight(0));
 }
 

@@ -2,10 +2,10 @@
 #include "core/ColourData.h"
 #include "core/Event.h"
 #include "core/IdStamp.h"
-#include "core/UIString.h"
-#include "core/Palette.h"
-#include "core/WidgetCallback.h"
 #include "core/MethodCallback.h"
+#include "core/Palette.h"
+#include "core/UIString.h"
+#include "core/WidgetCallback.h"
 #include "draw/GlibDescriptions.h"
 #include "glob/Border.h"
 #include "platform/ResourceStrings.h"
@@ -67,8 +67,7 @@ struct Counter : iObject {
 TEST(WidgetCallback, CallsWithNameAndPayloadOrReportsNothingToCall) {
     Counter c;
     Zn::Ptr<iObject> payload(new Counter);
-    WidgetCallback cb(Zn::Ptr<iCallbackBase<int, NotifyMsg>>(new MethodCallback<Counter, NotifyMsg, int>(&c, &Counter::onNotify)), "picked",
-                      payload);
+    WidgetCallback cb(Zn::Ptr<iCallbackBase<int, NotifyMsg>>(new MethodCallback<Counter, NotifyMsg, int>(&c, &Counter::onNotify)), "picked", payload);
     int result = 0;
     EXPECT_TRUE(cb.invoke(&result));
     EXPECT_EQ(result, 7);

@@ -30,11 +30,11 @@ std::uint32_t argbOf(const HTMLRenderer::Run& r) { return asARGB(r.colour); }
 } // namespace
 
 TEST(HTMLParse, RecognisesMarkUpOnlyByKnownTags) {
-    for (const wchar_t* html : {L"<b>bold</b>", L"  <p>para", L"one<br>two", L"<BR/>", L"<FONT color=red>x</FONT>",
-                                L"x <i class=\"a > b\">y", L"</p>", L"<h2>Title</h2>"})
+    for (const wchar_t* html :
+         {L"<b>bold</b>", L"  <p>para", L"one<br>two", L"<BR/>", L"<FONT color=red>x</FONT>", L"x <i class=\"a > b\">y", L"</p>", L"<h2>Title</h2>"})
         EXPECT_TRUE(HTMLRenderer::isHTML(html)) << html;
-    for (const wchar_t* plain : {L"", L"a < b and c > d", L"x<y>z", L"R&D &amp; more", L"<b", L"<b2>", L"< b>", L"<!-- -->",
-                                 L"1<2 but 3>2", L"if a<b && c>d"})
+    for (const wchar_t* plain :
+         {L"", L"a < b and c > d", L"x<y>z", L"R&D &amp; more", L"<b", L"<b2>", L"< b>", L"<!-- -->", L"1<2 but 3>2", L"if a<b && c>d"})
         EXPECT_FALSE(HTMLRenderer::isHTML(plain)) << plain;
 }
 

@@ -1,6 +1,6 @@
+#include "draw/HTMLRenderer.h"
 #include "draw/Canvas.h"
 #include "draw/CanvasRenderer.h"
-#include "draw/HTMLRenderer.h"
 #include "draw/WordWrappingTextRenderer.h"
 
 #include <gtest/gtest.h>

@@ -144,8 +144,7 @@ TEST_F(GlobLayout, BadSizesAndPositionsDegrade) {
 }
 
 TEST_F(GlobLayout, PlacementNumbersKeepTheirWordsAndNumbersThatNameNothingGiveNone) {
-    for (int i = kSiblingRelative; i <= kNoPosition; ++i)
-        EXPECT_EQ(CoordinateOriginFromString(asString(CoordinateOriginFromInt(i))), i);
+    for (int i = kSiblingRelative; i <= kNoPosition; ++i) EXPECT_EQ(CoordinateOriginFromString(asString(CoordinateOriginFromInt(i))), i);
     for (int i = kNoRelativity; i <= kBelow; ++i) EXPECT_EQ(WidgetRelativityFromString(asString(WidgetRelativityFromInt(i))), i);
     // Files hold the words, so a word must stay with its place whatever the numbers.
     EXPECT_EQ(asString(kTopLeft), "TopLeft");

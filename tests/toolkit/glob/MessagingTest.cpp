@@ -1,7 +1,7 @@
 #include "Blocks.h"
 
-#include "glob/GlobManager.h"
 #include "core/WidgetCallback.h"
+#include "glob/GlobManager.h"
 #include "glob/Messaging.h"
 
 #include <thread>

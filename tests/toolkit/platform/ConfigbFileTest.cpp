@@ -1,5 +1,5 @@
-#include "TempFolder.h"
 #include "platform/ConfigbFile.h"
+#include "TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -37,10 +37,18 @@ TEST(ConfigbFile, TextKeepsEveryEntryItsTypeAndTheOrder) {
 
 TEST(ConfigbFile, TextThatIsNotAStoreLeavesItUntouched) {
     const LightweightString<char> good = ConfigbFile::toText(sample());
-    const std::vector<LightweightString<char>> bad = {
-        "", "   ", "garbage", "[1, 2]", "\"text\"", "42", "null", "{\"gain\": {\"type\": \"double\", \"value\": \"0.5\"",
-        good.substr(0, good.size() / 2), good.substr(0, good.size() - 3), LightweightString<char>("{\"a\":\xFF}"),
-        LightweightString<char>(std::string("{\"a\"\0:1}", 8))};
+    const std::vector<LightweightString<char>> bad = {"",
+                                                      "   ",
+                                                      "garbage",
+                                                      "[1, 2]",
+                                                      "\"text\"",
+                                                      "42",
+                                                      "null",
+                                                      "{\"gain\": {\"type\": \"double\", \"value\": \"0.5\"",
+                                                      good.substr(0, good.size() / 2),
+                                                      good.substr(0, good.size() - 3),
+                                                      LightweightString<char>("{\"a\":\xFF}"),
+                                                      LightweightString<char>(std::string("{\"a\"\0:1}", 8))};
     for (const auto& text : bad) {
         Owner owner;
         configb store(&owner);
