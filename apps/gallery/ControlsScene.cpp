@@ -176,7 +176,7 @@ void buildControls() {
     addButtons(p, gap, row);
     addChecks(p, gap, row);
     addValues(p, gap, row);
-    p->setInterest(Glob::kTimerInterest);
+    p->setInterest(Event::kTimer);
     GlobManager::instance().realize(p);
     Drawable::enableRedraws();
 }

@@ -20,7 +20,7 @@ public:
     TickingProgInd(const wchar_t* title, XY<int> at, double step, const Colour& bar)
         : ProgInd(title, at.x, at.y, UifStd::instance().getColourScheme(), 0.0, 100.0, false), step_(step), bar_(bar) {
         showTimeRemaining(true);
-        setInterest(Glob::kTimerInterest);
+        setInterest(Event::kTimer);
     }
     int handleTimerEvent() override {
         value_ += step_;
@@ -59,7 +59,7 @@ public:
     TickingRender()
         : RenderProgressPanel(static_cast<unsigned short>(14 * UifStd::instance().getRowHeight()), Zn::Image::kAspect16x9,
                               UifStd::instance().getColourScheme().window(kShadeNormal)) {
-        setInterest(Glob::kTimerInterest);
+        setInterest(Event::kTimer);
     }
     int handleTimerEvent() override {
         frame_ = (frame_ + 1) % 250;

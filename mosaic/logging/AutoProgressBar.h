@@ -2,7 +2,7 @@
 
 #include "ProgInd.h"
 #include "core/UIString.h"
-#include "frame/GlobHandle.h"
+#include "glob/GlobHandle.h"
 
 #include <cstdint>
 

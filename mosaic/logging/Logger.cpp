@@ -40,8 +40,8 @@ int rowHeight() { return UifStd::instance().getRowHeight(); }
 
 // The width of one line in pixels: the fast measure for plain text, Pango for the rest.
 int measureWidth(const LightweightString<wchar_t>& text, const Glib::FontDesc& font) {
-    std::int64_t units = Glib::TextAdvanceCache::forThisThread().measure(text.view(), font);
-    if (units >= 0) return static_cast<int>((units + Glib::TextAdvanceCache::kUnitsPerPixel - 1) / Glib::TextAdvanceCache::kUnitsPerPixel);
+    if (std::optional<std::int64_t> units = Glib::TextAdvanceCache::forThisThread().measure(text.view(), font))
+        return static_cast<int>((*units + Glib::TextAdvanceCache::kUnitsPerPixel - 1) / Glib::TextAdvanceCache::kUnitsPerPixel);
     return Glib::measureText(text, font).x;
 }
 

@@ -2,7 +2,7 @@
 
 #include "Logger.h"
 #include "controls/FileBrowser.h"
-#include "frame/GlobHandle.h"
+#include "glob/GlobHandle.h"
 
 // The logger that the command "ShowLog" opens on a task log: a Logger with a save
 // button, which asks for a folder and writes the whole log there as one HTML file

@@ -3,7 +3,7 @@
 #include "FileParam.h"
 #include "controls/FileBrowser.h"
 #include "controls/TitleMenuButton.h"
-#include "frame/GlobHandle.h"
+#include "glob/GlobHandle.h"
 
 // A parameter row for a file: the legend, and a drop-down showing the file's name
 // whose menu offers the file itself, "no file" and a browse entry that opens the

@@ -59,7 +59,7 @@ public:
     // The number of rows a description asks for, to size a panel before building it:
     // 0 unless the root has exactly one child.
     static unsigned getNumParams(const ElementPtr& root);
-    // The element's "tooltip" as a resource id, or 999999 for none.
+    // The element's "tooltip" as a resource id, or UIString::kNoResource for none.
     static ResId getTooltip(const ElementPtr& element);
     // One row on its own, `width` wide; a legendWidth of 0 measures this one legend.
     // Null for a parameter of no known class.

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "HostPanel.h"
-#include "frame/GlobHandle.h"
+#include "glob/GlobHandle.h"
 
 class CodeEditor;
 

@@ -36,7 +36,7 @@ void addNumber(JSON::Builder& b, const char* key, double v) { b.add(key, static_
 LightweightString<wchar_t> Tutorial::Pointer::getDisplayString() const { return target.empty() ? LightweightString<wchar_t>(L",") : target; }
 
 void Tutorial::Pointer::write(JSON::Builder& b) const {
-    if (x != kNoCoordinate) {
+    if (x != Glob::kUnset) {
         addNumber(b, "x", x);
         addNumber(b, "y", y);
     } else if (!target.empty()) {
@@ -47,8 +47,8 @@ void Tutorial::Pointer::write(JSON::Builder& b) const {
 int Tutorial::Pointer::read(const Zn::Ptr<JSON::Element>& e) {
     target = e->getWString("target");
     if (!target.empty()) return 1;
-    x = numberOr(*e, "x", kNoCoordinate);
-    y = numberOr(*e, "y", kNoCoordinate);
+    x = numberOr(*e, "x", Glob::kUnset);
+    y = numberOr(*e, "y", Glob::kUnset);
     return 1;
 }
 

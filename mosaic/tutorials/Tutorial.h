@@ -4,6 +4,7 @@
 #include "core/LightweightString.h"
 #include "core/Ptr.h"
 #include "core/XY.h"
+#include "glob/Glob.h"
 #include "glob/WidgetPosition.h"
 #include "platform/iPersistable.h"
 
@@ -16,9 +17,6 @@
 // The player that runs a tutorial belongs to the application.
 class Tutorial : public JSON::iPersistable {
 public:
-    // A position of −1234 means none.
-    static constexpr double kNoCoordinate = -1234.0;
-
     struct UIComponent {
         LightweightString<char> type;
         XY<double> position;
@@ -27,13 +25,14 @@ public:
     };
 
     // Where the pointer goes: a position, or a named component. Coordinates win
-    // over a target when written; a target wins when read.
+    // over a target when written; a target wins when read. A coordinate of
+    // Glob::kUnset is none.
     class Pointer : public JSON::iPersistable {
     public:
-        double x = kNoCoordinate, y = kNoCoordinate;
+        double x = Glob::kUnset, y = Glob::kUnset;
         LightweightString<wchar_t> target;
 
-        bool valid() const { return x != kNoCoordinate || !target.empty(); }
+        bool valid() const { return x != Glob::kUnset || !target.empty(); }
         // The target, or a single comma when there is none.
         LightweightString<wchar_t> getDisplayString() const;
         void write(JSON::Builder& b) const override;

@@ -26,10 +26,10 @@ protected:
     void clicked() override {
         T wanted = nextValue();
         if (!this->getDataAdaptor()) value_ = wanted;
-        const IdStamp me = this->stamp();
+        const GlobHandle<Glob> alive(this);
         this->requestSetNewDataValue(wanted, kFinalChange);
         // A listener of the value may have deleted the button.
-        if (EventHandler::valid(this, me)) Button::clicked();
+        if (alive) Button::clicked();
     }
 
 private:

@@ -17,16 +17,12 @@ public:
         if (!w) {
             w = makeWidget(ctx);
             if (!w) return nullptr;
-            widget_ = w;
-            stamp_ = w->stamp();
+            widget_.reset(w);
         }
         initWidgetFromData(ctx);
         return w;
     }
-    void releaseWidget() override {
-        widget_ = nullptr;
-        stamp_ = IdStamp(0, 0, 0);
-    }
+    void releaseWidget() override { widget_.reset(); }
     bool hasChanged() const override { return changed_; }
     void clearChanged() override { changed_ = false; }
     void hide() override {
@@ -48,11 +44,10 @@ public:
 protected:
     // A new editing widget for ctx, made as a child of ctx.table.
     virtual W* makeWidget(CellContext& ctx) = 0;
-    W* live() const { return widget_ && EventHandler::valid(widget_, stamp_) ? widget_ : nullptr; }
+    W* live() const { return widget_.get(); }
 
     bool changed_ = false;
 
 private:
-    W* widget_ = nullptr;
-    IdStamp stamp_;
+    GlobHandle<W> widget_;
 };

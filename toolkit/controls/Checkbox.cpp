@@ -29,10 +29,10 @@ void Checkbox::clicked() {
     bool wanted = !state_;
     // Unbound, the box is its own data; bound, the adaptor's answer sets the state.
     if (!getDataAdaptor()) setState(wanted);
-    const IdStamp me = stamp();
+    const GlobHandle<Glob> alive(this);
     requestSetNewDataValue(wanted, kFinalChange);
     // A listener of the value may have deleted the box.
-    if (EventHandler::valid(this, me)) fireCallback(this, callback_);
+    if (alive) fireCallback(this, callback_);
 }
 
 void Checkbox::drawBackground() {

@@ -12,17 +12,17 @@
 // rather than to the row's callback, which the button fires itself.
 class DropDownMenu : public Menu {
 public:
-    DropDownMenu(const InitArgs& args, DropDownMenuButton* button) : Menu(args), button_(button), buttonStamp_(button->stamp()) {}
+    DropDownMenu(const InitArgs& args, DropDownMenuButton* button) : Menu(args), button_(button) {}
 
 protected:
     void handleChoice(int row) override {
-        if (!EventHandler::valid(button_, buttonStamp_)) return;
-        if (int choice = button_->choiceOfRow(row); choice >= 0) button_->handleChoice(choice);
+        DropDownMenuButton* button = button_.get();
+        if (!button) return;
+        if (int choice = button->choiceOfRow(row); choice >= 0) button->handleChoice(choice);
     }
 
 private:
-    DropDownMenuButton* button_;
-    IdStamp buttonStamp_;
+    GlobHandle<DropDownMenuButton> button_;
 };
 
 namespace {
@@ -115,23 +115,25 @@ void DropDownMenuButton::showSelection(eRedrawFlag flag) {
 
 // ---- the menu ---------------------------------------------------------------
 
-Menu* DropDownMenuButton::getMenu() const { return EventHandler::valid(menu_, menuStamp_) && menu_->isOpen() ? menu_ : nullptr; }
+Menu* DropDownMenuButton::getMenu() const {
+    Menu* m = menu_.get();
+    return m && m->isOpen() ? m : nullptr;
+}
 
 bool DropDownMenuButton::displayMenu() {
     if (isMenuOpen()) return true;
     if (!isActive()) return false;
-    const IdStamp me = stamp();
+    const GlobHandle<Glob> alive(this);
     if (Glob* owner = logicalParent()) callMessage(ddBtnClickMsg, owner, this);
     // The owner may have done anything in answer, this button's end included.
-    if (!EventHandler::valid(this, me)) return false;
+    if (!alive) return false;
     Menu::InitArgs args(items_);
     args.palette = getPalette();
     args.minWidth = width();
     args.marked = args.highlighted = rowOfChoice(selected_);
     auto* menu = new DropDownMenu(args, this);
     menu->popUpBelow(this, BoxInt(screenPos(), size()));
-    menu_ = menu;
-    menuStamp_ = menu->stamp();
+    menu_.reset(menu);
     redraw();
     return true;
 }
@@ -141,22 +143,21 @@ void DropDownMenuButton::removeMenuFromScreen() {
         m->close();
         redraw();
     }
-    menu_ = nullptr;
-    menuStamp_ = IdStamp();
+    menu_.reset();
 }
 
 void DropDownMenuButton::handleChoice(int choice) {
     const int row = rowOfChoice(choice);
     if (row < 0 || !items_[row].canBeChosen()) return;
     const WidgetCallback rowCallback = items_[row].callback();
-    const IdStamp me = stamp();
+    const GlobHandle<Glob> alive(this);
     // Unbound, the button is its own data; bound, the adaptor's answer shows the choice.
     if (!getDataAdaptor()) {
         selected_ = choice;
         showSelection(kRedraw);
     }
     requestSetNewDataValue(choice, kFinalChange);
-    if (!EventHandler::valid(this, me)) return;
+    if (!alive) return;
     if (!rowCallback.isEmpty() && !fireCallback(this, rowCallback)) return;
     fireCallback(this, getCallback());
 }

@@ -3,6 +3,7 @@
 #include "DropDownButtonInitArgs.h"
 #include "MenuItem.h"
 #include "MenuItemIndex.h"
+#include "glob/GlobHandle.h"
 #include "value/ValWidget.h"
 
 #include <vector>
@@ -93,6 +94,5 @@ private:
     std::vector<MenuItem> items_;
     int selected_ = -1;
     bool useSelected_ = true;
-    Menu* menu_ = nullptr;
-    IdStamp menuStamp_;
+    GlobHandle<Menu> menu_;
 };

@@ -93,8 +93,7 @@ void FileBrowserBase::init(const InitArgs& args, int flags) {
     if (table_) return;
     mode_ = args.selectionMode == kMultipleFiles || args.selectionMode == kFolder ? args.selectionMode : kSingleFile;
     callback_ = args.callback;
-    owner_ = args.owner;
-    ownerStamp_ = owner_ ? owner_->stamp() : IdStamp();
+    owner_.reset(args.owner);
     showHidden_ = args.showHidden;
     const ResId titleId = mode_ == kFolder ? kChooseFolderId : mode_ == kMultipleFiles ? kChooseFilesId : kChooseFileId;
     setBorder(getDefaultBorder());
@@ -428,8 +427,8 @@ void FileBrowserBase::cancel() {
 }
 
 EventHandler* FileBrowserBase::ownerHandler() const {
-    if (!owner_) return logicalParent();
-    return EventHandler::valid(owner_, ownerStamp_) ? owner_ : nullptr;
+    if (!owner_.stamp().valid()) return logicalParent();
+    return owner_.get();
 }
 
 // Everything that touches this browser happens before the callback, which may delete it.

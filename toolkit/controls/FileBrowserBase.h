@@ -4,6 +4,7 @@
 #include "TableWidget.h"
 #include "core/WidgetCallback.h"
 #include "core/WrappedData.h"
+#include "glob/GlobHandle.h"
 
 #include <set>
 #include <vector>
@@ -164,8 +165,7 @@ private:
     LightweightString<char> folder_;
     eSelectionMode mode_ = kSingleFile;
     WidgetCallback callback_;
-    EventHandler* owner_ = nullptr;
-    IdStamp ownerStamp_;
+    GlobHandle<EventHandler> owner_;
     bool showHidden_ = false;
     std::vector<FileFilter> filterChoices_;
     int filterChoice_ = -1;

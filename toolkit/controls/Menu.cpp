@@ -93,8 +93,7 @@ void Menu::show(Glob* owner, XY<int> bottomLeft) {
     // Modal after realizing, so that it stands above a modal panel it was opened from.
     gm.addModalGlob(this);
     gm.input().watchPressesOutside(this);
-    previousFocus_ = get_kbd_focus();
-    previousFocusStamp_ = previousFocus_ ? previousFocus_->stamp() : IdStamp();
+    previousFocus_.reset(get_kbd_focus());
     gm.setKbdFocus(this);
 }
 
@@ -102,7 +101,7 @@ void Menu::release() {
     GlobManager& gm = GlobManager::instance();
     gm.input().stopWatchingPressesOutside(this);
     gm.removeModalGlob(this);
-    if (hasKbdFocus()) gm.setKbdFocus(EventHandler::valid(previousFocus_, previousFocusStamp_) ? previousFocus_ : nullptr);
+    if (hasKbdFocus()) gm.setKbdFocus(previousFocus_.get());
 }
 
 void Menu::close() {

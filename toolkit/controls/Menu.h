@@ -112,6 +112,5 @@ private:
     bool scrolling_ = false;
     int sideWidth_ = 0;
     State state_ = kNew;
-    Glob* previousFocus_ = nullptr;
-    IdStamp previousFocusStamp_;
+    GlobHandle<Glob> previousFocus_;
 };

@@ -2,6 +2,8 @@
 
 #include "Menu.h"
 
+MenuGlob::MenuGlob() = default;
+
 MenuGlob::~MenuGlob() { closeMenu(); }
 
 void MenuGlob::addMenuItem(const MenuItem& item, bool active) {
@@ -16,14 +18,13 @@ void MenuGlob::setMenuItemActive(std::size_t row, bool active) {
 }
 
 Menu* MenuGlob::getOpenMenu() const {
-    if (!EventHandler::valid(open_, openStamp_) || !open_->isOpen()) return nullptr;
-    return open_;
+    Menu* m = open_.get();
+    return m && m->isOpen() ? m : nullptr;
 }
 
 void MenuGlob::closeMenu() {
     if (Menu* m = getOpenMenu()) m->close();
-    open_ = nullptr;
-    openStamp_ = IdStamp();
+    open_.reset();
 }
 
 Menu* MenuGlob::makeMenu(const Event& e) {
@@ -31,14 +32,14 @@ Menu* MenuGlob::makeMenu(const Event& e) {
     auto* self = dynamic_cast<Glob*>(this);
     if (!self) return nullptr;
     closeMenu();
-    const IdStamp stamp = self->stamp();
+    const GlobHandle<Glob> alive(self);
     if (!initialised_) {
         initialised_ = true;
         initialiseMenu();
     }
     reviewMenu(&e);
     // A review may act on the panel in ways that end it.
-    if (!EventHandler::valid(self, stamp)) return nullptr;
+    if (!alive) return nullptr;
     std::vector<MenuItem> rows = getMenuItems(&e);
     if (rows.empty()) return nullptr;
     Menu::InitArgs args(rows);
@@ -46,7 +47,6 @@ Menu* MenuGlob::makeMenu(const Event& e) {
     args.palette = self->getPalette();
     auto* menu = new Menu(args);
     menu->popUpAt(self, e.screenPos());
-    open_ = menu;
-    openStamp_ = menu->stamp();
+    open_.reset(menu);
     return menu;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "MenuItem.h"
-#include "core/IdStamp.h"
+#include "glob/GlobHandle.h"
 
 #include <vector>
 
@@ -15,7 +15,7 @@ class Menu;
 // send their message to it; the panel is told "menu_poot" when the menu has gone.
 class MenuGlob {
 public:
-    MenuGlob() = default;
+    MenuGlob();
     // The open menu is tied to this object; a copy would have none.
     MenuGlob(const MenuGlob&) = delete;
     MenuGlob& operator=(const MenuGlob&) = delete;
@@ -52,6 +52,5 @@ private:
     std::vector<MenuItem> menuItems_;
     UIString menuTitle_;
     bool initialised_ = false;
-    Menu* open_ = nullptr;
-    IdStamp openStamp_;
+    GlobHandle<Menu> open_;
 };

@@ -36,7 +36,6 @@ Message::Message(const InitArgs& args) : Message(args, {}, {args.callback}) {}
 
 Message::Message(const InitArgs& args, const std::vector<UIString>& labels, const std::vector<WidgetCallback>& callbacks)
     : StandardPanel(args), text_(args.text), callbacks_(callbacks), client_(args.client), modal_(args.modal) {
-    clientStamp_ = client_ ? client_->stamp() : IdStamp();
     const std::vector<UIString> shown = orOk(labels);
     const UIString title = orDefaultTitle(args.title, kInformationId);
     if (args.width <= 0 || args.height <= 0) {
@@ -129,7 +128,7 @@ void Message::press(int index) {
     if (closing_) return;
     close();
     if (index < 0 || index >= static_cast<int>(callbacks_.size())) return;
-    fireCallback(this, callbacks_[index], EventHandler::valid(client_, clientStamp_) ? client_ : nullptr);
+    fireCallback(this, callbacks_[index], client_.get());
 }
 
 void Message::close() {

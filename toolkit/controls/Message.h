@@ -80,8 +80,7 @@ private:
     UIString text_;
     std::vector<WidgetCallback> callbacks_;
     std::vector<PushButton*> buttons_;
-    EventHandler* client_;
-    IdStamp clientStamp_;
+    GlobHandle<EventHandler> client_;
     bool modal_;
     bool closing_ = false;
 };

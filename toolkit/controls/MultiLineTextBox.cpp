@@ -51,10 +51,9 @@ void MultiLineTextBox::scrollToCaret() {
 bool MultiLineTextBox::fitsWithoutScrolling() const {
     const LightweightString<wchar_t> text = displayText();
     Glib::TextAdvanceCache& cache = Glib::TextAdvanceCache::forThisThread();
-    XY<int> line = cache.measurePixels(text.view(), getFont());
-    if (line.x < 0) return false;
-    int lines = cache.countLines(text.view(), wrapWidth(), getFont());
-    return lines > 0 && lines * std::max(line.y, Glib::fontHeight(getFont())) <= textArea().height();
+    std::optional<XY<int>> line = cache.measurePixels(text.view(), getFont());
+    std::optional<int> lines = line ? cache.countLines(text.view(), wrapWidth(), getFont()) : std::nullopt;
+    return lines && *lines * std::max(line->y, Glib::fontHeight(getFont())) <= textArea().height();
 }
 
 bool MultiLineTextBox::moveCaretVertically(int lines, bool extend) {

@@ -56,9 +56,9 @@ void NumericTextBox::step(double steps) {
     LightweightString<wchar_t> next = DataConvert::toText(constrained(getValue() + steps * step_));
     if (next != getString()) {
         setString(next);
-        IdStamp me = stamp();
+        const GlobHandle<Glob> alive(this);
         commit();
-        if (!EventHandler::valid(this, me)) return;
+        if (!alive) return;
         fireCallback(kCharTyped);
     }
 }

@@ -173,7 +173,7 @@ void ScrollBar::actOn(ePart part) {
 }
 
 void ScrollBar::stopRepeating() {
-    if (interest() & kTimerInterest) clearInterest(Glob::kTimerInterest);
+    if (interest() & Event::kTimer) clearInterest(Event::kTimer);
     repeatTicks_ = 0;
 }
 
@@ -204,7 +204,7 @@ int ScrollBar::react(const Event& e) {
         } else {
             actOn(pressed_);
             repeatTicks_ = 0;
-            setInterest(Glob::kTimerInterest);
+            setInterest(Event::kTimer);
         }
         repaint(this);
         return 1;

@@ -141,16 +141,16 @@ void ScrollList::moveTo(int index, unsigned modifiers) {
 }
 
 void ScrollList::notifySelection() {
-    IdStamp alive = stamp();
+    const GlobHandle<Glob> alive(this);
     selectionChanged();
-    if (EventHandler::valid(this, alive)) fire(onSelect_, selectionChangedMsg);
+    if (alive) fire(onSelect_, selectionChangedMsg);
 }
 
 void ScrollList::activate(int index) {
     if (index < 0 || index >= numItems()) return;
-    IdStamp alive = stamp();
+    const GlobHandle<Glob> alive(this);
     itemActivated(index);
-    if (!EventHandler::valid(this, alive)) return;
+    if (!alive) return;
     fire(onActivate_, itemActivatedMsg);
 }
 
@@ -255,9 +255,9 @@ int ScrollList::handleMouseEvent(const Event& e) {
     int index = itemAt(e.pos());
     if (index >= 0 && (mouse_down_event(e) || mouse_up_event(e))) {
         BoxInt row = itemBox(index);
-        IdStamp alive = stamp();
+        const GlobHandle<Glob> alive(this);
         if (handleItemMouse(index, e.pos() - XY<int>(row.x1, row.y1), e)) return 1;
-        if (!EventHandler::valid(this, alive)) return 1;
+        if (!alive) return 1;
     }
     if (mouse_down_event(e) && mouse_left_event(e)) {
         if (index < 0) return 1;

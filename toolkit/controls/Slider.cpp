@@ -65,10 +65,10 @@ void Slider::userChanges(double value, DataChangeType type) {
     double before = value_;
     setPosition(value);
     if (value_ == before && type != kFinalChange) return;
-    const IdStamp me = stamp();
+    const GlobHandle<Glob> alive(this);
     requestSetNewDataValue(value_, type);
     // A listener of the value may have deleted the slider.
-    if (type == kFinalChange && EventHandler::valid(this, me)) fireCallback(this, callback_);
+    if (type == kFinalChange && alive) fireCallback(this, callback_);
 }
 
 int Slider::react(const Event& e) {

@@ -15,10 +15,8 @@ Splitter::InitArgs::InitArgs(Orientation o, unsigned short length) : orientation
 Splitter::Splitter(const InitArgs& args)
     : StandardPanel(args), orientation_(args.orientation == kAboveEachOther ? kAboveEachOther : kSideBySide), minFirst_(args.minFirst),
       minSecond_(args.minSecond) {
-    first_ = args.first;
-    second_ = args.second;
-    firstStamp_ = first_ ? first_->stamp() : IdStamp();
-    secondStamp_ = second_ ? second_->stamp() : IdStamp();
+    first_.reset(args.first);
+    second_.reset(args.second);
     setDefaultMouseCursor(orientation_ == kSideBySide ? kCursorResizeHorizontal : kCursorResizeVertical);
 }
 
@@ -31,20 +29,19 @@ XY<int> Splitter::calcDimensions(Orientation orientation, unsigned short length)
 void Splitter::setPanes(Glob* first, Glob* second) {
     // The panes are set when the bar is added, which may come after the record was
     // filled; both are checked against the bar's parent whenever they are used.
-    first_ = first;
-    second_ = second;
-    firstStamp_ = first ? first->stamp() : IdStamp();
-    secondStamp_ = second ? second->stamp() : IdStamp();
+    first_.reset(first);
+    second_.reset(second);
 }
 
 Glob* Splitter::firstPane() const {
-    if (!first_ || !EventHandler::valid(first_, firstStamp_) || !parent() || first_->parent() != parent() || first_ == this) return nullptr;
-    return first_;
+    Glob* g = first_.get();
+    return g && parent() && g->parent() == parent() && g != this ? g : nullptr;
 }
 
 Glob* Splitter::secondPane() const {
-    if (!second_ || !EventHandler::valid(second_, secondStamp_) || !parent() || second_->parent() != parent() || second_ == this) return nullptr;
-    return second_ == first_ ? nullptr : second_;
+    Glob* g = second_.get();
+    if (!g || !parent() || g->parent() != parent() || g == this) return nullptr;
+    return g == first_.get() ? nullptr : g;
 }
 
 void Splitter::setMinSizes(unsigned short first, unsigned short second) {
@@ -111,13 +108,13 @@ int Splitter::handleMouseEvent(const Event& e) {
     }
     if (!dragging_) return mouse_event(e) ? 1 : 0;
     if (mouse_move_event(e) || mouse_up_event(e)) {
-        const IdStamp self = stamp();
+        const GlobHandle<Glob> alive(this);
         if (p) {
             if (firstPane() && secondPane()) moveTo(along(p->screenXYToGlobXY(e.screenPos())) - grab_);
             callMessage(kMoveMsg, p, this);
         }
         // The parent may have taken the bar away while it handled the move.
-        if (!EventHandler::valid(this, self)) return 1;
+        if (!alive) return 1;
         if (mouse_up_event(e)) {
             dragging_ = false;
             redraw();

@@ -72,9 +72,7 @@ private:
     void layoutPanes();
 
     Orientation orientation_;
-    Glob* first_ = nullptr;
-    Glob* second_ = nullptr;
-    IdStamp firstStamp_, secondStamp_;
+    GlobHandle<Glob> first_, second_;
     unsigned short minFirst_, minSecond_;
     bool dragging_ = false;
     bool hot_ = false;

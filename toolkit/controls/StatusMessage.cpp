@@ -48,10 +48,10 @@ void StatusMessage::setMessage(const UIString& text, int timeoutMs, eRedrawFlag 
 void StatusMessage::startTimer(int timeoutMs) {
     if (timeoutMs > 0) {
         deadline_ = msecsNow() + timeoutMs;
-        setInterest(Glob::kTimerInterest);
+        setInterest(Event::kTimer);
     } else {
         deadline_ = 0;
-        clearInterest(Glob::kTimerInterest);
+        clearInterest(Event::kTimer);
     }
 }
 

@@ -21,11 +21,12 @@ int TabbedDialogue::calcHeightForContents(unsigned short contentHeight, unsigned
 }
 
 Glob* TabbedDialogue::livePage(const Tab& t) const {
-    return t.page && EventHandler::valid(t.page, t.stamp) && t.page->parent() == this ? t.page : nullptr;
+    Glob* page = t.page.get();
+    return page && page->parent() == this ? page : nullptr;
 }
 
 int TabbedDialogue::addTab(const UIString& title, eTabWidget) {
-    tabs_.push_back({title, nullptr, IdStamp()});
+    tabs_.push_back({title, {}});
     if (selected_ < 0) selected_ = 0;
     redraw();
     return numTabs() - 1;
@@ -36,8 +37,7 @@ bool TabbedDialogue::addPageForTab(unsigned char tab, Glob* page) {
     for (const Tab& t : tabs_)
         if (livePage(t) == page) return false;
     if (Glob* old = livePage(tabs_[tab])) removeWidget(old, true);
-    tabs_[tab].page = page;
-    tabs_[tab].stamp = page->stamp();
+    tabs_[tab].page.reset(page);
     page->setVisible(tab == selected_);
     const BoxInt box = pageBox();
     page->resize(box.width(), box.height());

@@ -81,8 +81,7 @@ public:
 private:
     struct Tab {
         UIString title;
-        Glob* page = nullptr;
-        IdStamp stamp;
+        GlobHandle<Glob> page;
     };
     Glob* livePage(const Tab& t) const;
     void fitPages();

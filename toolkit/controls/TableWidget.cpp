@@ -483,12 +483,12 @@ int TableWidget::handleMouseEvent(const Event& e) {
     if (!adaptor_ || cell.x < 0 || cell.y < 0) return mouse_move_event(e) ? 0 : 1;
     if (press) stopEditing(true);
     if (!mouse_move_event(e) || pressed_.y >= 0) {
-        IdStamp alive = stamp();
+        const GlobHandle<Glob> alive(this);
         Zn::Ptr<iCellEditor> editor = editorFor(cell);
         // The widget of the cell being edited has its own events already.
         bool own = isEditing() && cell == editing_;
         bool taken = (!own && editor->handleEvent(makeContext(cell, getCellBox(cell)), e)) || adaptor_->handleMouseClickEvent(cell, e) != 0;
-        if (!EventHandler::valid(this, alive)) return 1;
+        if (!alive) return 1;
         if (press) pressed_ = cell;
         if (mouse_up_event(e)) pressed_ = {-1, -1};
         if (taken) return 1;

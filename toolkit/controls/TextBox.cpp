@@ -48,8 +48,8 @@ void TextBox::scrollToCaret() {
     BoxInt a = textArea();
     // Text that fits needs no scrolling, and cached advances tell so without shaping
     // it: a panel filling hundreds of boxes from their values lays none of them out.
-    XY<int> size = Glib::TextAdvanceCache::forThisThread().measurePixels(displayText().view(), getFont());
-    if (size.x >= 0 && size.x + suffixWidth() + caretWidth() <= a.width()) {
+    std::optional<XY<int>> size = Glib::TextAdvanceCache::forThisThread().measurePixels(displayText().view(), getFont());
+    if (size && size->x + suffixWidth() + caretWidth() <= a.width()) {
         scrollX_ = 0;
         return;
     }

@@ -21,11 +21,10 @@ constexpr wchar_t kBullet = 0x2022;
 
 class CallbackRelay : public iObject {
 public:
-    CallbackRelay(const LightweightString<char>& m, EventHandler* t, const IdStamp& s, const Zn::Ptr<iObject>& p)
-        : message(m), target(t), stamp(s), payload(p) {}
+    CallbackRelay(const LightweightString<char>& m, const GlobHandle<EventHandler>& t, const Zn::Ptr<iObject>& p)
+        : message(m), target(t), payload(p) {}
     LightweightString<char> message;
-    EventHandler* target;
-    IdStamp stamp;
+    GlobHandle<EventHandler> target;
     Zn::Ptr<iObject> payload;
 };
 
@@ -317,9 +316,9 @@ void TextBoxBase::setClipboardText(const LightweightString<wchar_t>& text) const
 void TextBoxBase::commit() { committed_ = text_; }
 
 int TextBoxBase::handleReturn() {
-    IdStamp me = stamp();
+    const GlobHandle<Glob> alive(this);
     commit();
-    if (EventHandler::valid(this, me)) fireCallback(kReturnPressed);
+    if (alive) fireCallback(kReturnPressed);
     return 1;
 }
 
@@ -341,12 +340,12 @@ int TextBoxBase::handleEscape() {
 
 void TextBoxBase::requestCallback(const WidgetCallback& callback, eCallbackEvent event) {
     if (event <= 0 || event >= kNumCallbackEvents) return;
-    callbacks_[event] = Callback{callback, nullptr, IdStamp()};
+    callbacks_[event] = Callback{callback, {}};
 }
 
 void TextBoxBase::requestCallback(const LightweightString<char>& message, EventHandler* target, eCallbackEvent event) {
     if (event <= 0 || event >= kNumCallbackEvents) return;
-    callbacks_[event] = Callback{WidgetCallback(message), target, target ? target->stamp() : IdStamp()};
+    callbacks_[event] = Callback{WidgetCallback(message), GlobHandle<EventHandler>(target)};
 }
 
 bool TextBoxBase::fireCallback(eCallbackEvent event) {
@@ -354,32 +353,26 @@ bool TextBoxBase::fireCallback(eCallbackEvent event) {
     Callback c = callbacks_[event];
     if (c.callback.callback()) return ::fireCallback(this, c.callback);
     if (c.callback.message().empty()) return true;
-    EventHandler* target = c.target;
-    IdStamp targetStamp = c.stamp;
-    if (!target) {
-        Glob* owner = logicalParent();
-        target = owner;
-        targetStamp = owner ? owner->stamp() : IdStamp();
-    }
-    if (!target) return true;
-    sendMessageWithData(kCallbackRelayMsg, this, Zn::Ptr<iObject>(new CallbackRelay(c.callback.message(), target, targetStamp, c.callback.payload())),
-                        this);
+    const GlobHandle<EventHandler> target = c.target.stamp().valid() ? c.target : GlobHandle<EventHandler>(logicalParent());
+    if (!target.stamp().valid()) return true;
+    sendMessageWithData(kCallbackRelayMsg, this, Zn::Ptr<iObject>(new CallbackRelay(c.callback.message(), target, c.callback.payload())), this);
     return true;
 }
 
 int TextBoxBase::handleDataMessageEvent(const LightweightString<char>& message, Glob* sender, const Zn::Ptr<iObject>& data) {
     auto relay = Zn::dynamicCast<CallbackRelay>(data);
     if (!relay || message != kCallbackRelayMsg) return StandardPanel::handleDataMessageEvent(message, sender, data);
-    if (!EventHandler::valid(relay->target, relay->stamp)) return 1;
+    if (!relay->target) return 1;
     // The target first, then its parents, until one takes the message. Every
     // pointer is taken before the first delivery and checked before each.
-    std::vector<std::pair<EventHandler*, IdStamp>> chain{{relay->target, relay->stamp}};
-    if (auto* g = dynamic_cast<Glob*>(relay->target))
-        for (Glob* p = g->parent(); p; p = p->parent()) chain.emplace_back(p, p->stamp());
-    IdStamp me = stamp();
-    for (const auto& [handler, handlerStamp] : chain) {
-        if (!EventHandler::valid(handler, handlerStamp)) continue;
-        iObject* from = EventHandler::valid(this, me) ? this : nullptr;
+    std::vector<GlobHandle<EventHandler>> chain{relay->target};
+    if (auto* g = dynamic_cast<Glob*>(relay->target.get()))
+        for (Glob* p = g->parent(); p; p = p->parent()) chain.emplace_back(p);
+    const GlobHandle<Glob> alive(this);
+    for (const auto& link : chain) {
+        EventHandler* handler = link.get();
+        if (!handler) continue;
+        iObject* from = alive ? this : nullptr;
         int taken = relay->payload ? callMessageWithData(relay->message, handler, relay->payload, from) : callMessage(relay->message, handler, from);
         if (taken) break;
     }
@@ -400,9 +393,9 @@ void TextBoxBase::handleKbdFocus(bool gained) {
         return;
     }
     dragging_ = false;
-    IdStamp me = stamp();
+    const GlobHandle<Glob> alive(this);
     if (text_ != committed_) commit();
-    if (!EventHandler::valid(this, me) || !fireCallback(kFocusLost)) return;
+    if (!alive || !fireCallback(kFocusLost)) return;
     redraw();
 }
 
@@ -422,9 +415,9 @@ int TextBoxBase::react(const Event& e) {
         // The character comes in the text event that follows this key.
         if (Keys::isPrintable(Keys::plain(e.keyCode())) && !(e.modifiers() & kCommand)) return editable_ && isActive() ? 1 : 0;
         keyModifiers_ = e.modifiers();
-        IdStamp me = stamp();
+        const GlobHandle<Glob> alive(this);
         int taken = StandardPanel::react(Event::key(Event::kKeyPress, Keys::editCommandFor(e.keyCode())));
-        if (EventHandler::valid(this, me)) keyModifiers_ = 0;
+        if (alive) keyModifiers_ = 0;
         return taken;
     }
     return StandardPanel::react(e);

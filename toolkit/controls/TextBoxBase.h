@@ -179,8 +179,7 @@ private:
     enum EditKind { kTyping, kDeleting, kOtherEdit };
     struct Callback {
         WidgetCallback callback;
-        EventHandler* target = nullptr;
-        IdStamp stamp;
+        GlobHandle<EventHandler> target; // none given: the owner hears it
     };
 
     LightweightString<wchar_t> filterInput(const LightweightString<wchar_t>& text) const;

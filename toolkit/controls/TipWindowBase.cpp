@@ -3,6 +3,7 @@
 #include "draw/CanvasRenderer.h"
 #include "draw/Screen.h"
 #include "draw/WordWrappingTextRenderer.h"
+#include "glob/GlobHandle.h"
 #include "glob/GlobManager.h"
 #include "glob/InputDispatcher.h"
 #include "glob/UifStd.h"
@@ -21,26 +22,24 @@ int orGap(int v) { return v < 0 ? UifStd::instance().getWidgetGap() : v; }
 bool within(const BoxInt& area, const BoxInt& b) { return b.x1 >= area.x1 && b.y1 >= area.y1 && b.x2 <= area.x2 && b.y2 <= area.y2; }
 
 // Watches the user through GlobManager's event observer and opens and closes the
-// one tooltip window. Every glob it remembers is kept with its stamp.
+// one tooltip window. Every glob it remembers is kept by a handle.
 class Tooltips {
 public:
     int delayMs = 700;
     bool enabled = true;
 
     void observe(const Event& e);
-    TipWindowBase* tip() const { return EventHandler::valid(tip_, tipStamp_) ? tip_ : nullptr; }
+    TipWindowBase* tip() const { return tip_.get(); }
     void close();
 
 private:
-    Glob* owner() const { return EventHandler::valid(owner_, ownerStamp_) ? owner_ : nullptr; }
+    Glob* owner() const { return owner_.get(); }
     static Glob* ownerOf(Glob* hovered);
     void rest(Glob* owner, XY<int> at);
     void open(Glob* owner);
 
-    Glob* owner_ = nullptr;
-    IdStamp ownerStamp_;
-    TipWindowBase* tip_ = nullptr;
-    IdStamp tipStamp_;
+    GlobHandle<Glob> owner_;
+    GlobHandle<TipWindowBase> tip_;
     XY<int> restPos_;
     std::int64_t restSince_ = 0;
     bool buttonDown_ = false;
@@ -61,15 +60,10 @@ Glob* Tooltips::ownerOf(Glob* hovered) {
     return nullptr;
 }
 
-void Tooltips::close() {
-    if (TipWindowBase* t = tip()) delete t;
-    tip_ = nullptr;
-    tipStamp_ = IdStamp();
-}
+void Tooltips::close() { tip_.deleteGlob(); }
 
 void Tooltips::rest(Glob* owner, XY<int> at) {
-    owner_ = owner;
-    ownerStamp_ = owner ? owner->stamp() : IdStamp();
+    owner_.reset(owner);
     restPos_ = at;
     restSince_ = msecsNow();
 }
@@ -133,8 +127,7 @@ void Tooltips::open(Glob* o) {
     auto* t = new TipWindowBase(args);
     t->showBeside(anchor);
     Drawable::enableRedraws();
-    tip_ = t;
-    tipStamp_ = t->stamp();
+    tip_.reset(t);
 }
 
 } // namespace

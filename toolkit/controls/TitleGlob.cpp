@@ -81,14 +81,13 @@ BoxInt TitleGlob::controlBox() const {
 }
 
 Glob* TitleGlob::getControl() const {
-    if (control_ && EventHandler::valid(control_, controlStamp_) && control_->parent() == this) return control_;
-    return nullptr;
+    Glob* control = control_.get();
+    return control && control->parent() == this ? control : nullptr;
 }
 
 void TitleGlob::setControl(Glob* control) {
     if (control && control->parent() != this) return;
-    control_ = control;
-    controlStamp_ = control ? control->stamp() : IdStamp();
+    control_.reset(control);
 }
 
 void TitleGlob::handleWidgetAdded(const WidgetDetails& details) {

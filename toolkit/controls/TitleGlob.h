@@ -73,6 +73,5 @@ private:
     int titleWidth_ = 0;
     bool autoWidth_ = true;
     Glib::eHorizontalAlign align_ = Glib::kAlignLeft;
-    Glob* control_ = nullptr;
-    IdStamp controlStamp_;
+    GlobHandle<Glob> control_;
 };

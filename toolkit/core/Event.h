@@ -23,7 +23,7 @@ public:
         kMouseWheel = 0x0203,
         kMouseEnter = 0x0204,
         kMouseLeave = 0x0205,
-        kTimer = 4096,
+        kTimer = 4096, // a tick, and the interest bit that asks for ticks (Glob::setInterest)
         kFocusIn = 0x2001,
         kFocusOut = 0x2002,
         kMessage = 16385,

@@ -1,4 +1,5 @@
 list(APPEND GLOBKIT_SOURCES
+  core/Assert.cpp
   core/Colour.cpp
   core/ColourData.cpp
   core/Event.cpp

@@ -70,8 +70,8 @@ PangoLayout* makeLayout(const LightweightString<char>& utf8, const FontDesc& fon
 XY<int> measureText(const LightweightString<wchar_t>& text, const FontDesc& font) {
     // Most legends and labels are plain Latin text, which the advance cache measures
     // without shaping; it answers exactly what the layout below would.
-    if (XY<int> fast = TextAdvanceCache::forThisThread().measurePixels(text.view(), font); fast.x >= 0) {
-        return {fast.x, std::max(fast.y, fontHeight(font))};
+    if (std::optional<XY<int>> fast = TextAdvanceCache::forThisThread().measurePixels(text.view(), font)) {
+        return {fast->x, std::max(fast->y, fontHeight(font))};
     }
     PangoLayout* layout = makeLayout(toUTF8(text), font);
     PangoRectangle logical;

@@ -19,7 +19,7 @@ using Run = HTMLRenderer::Run;
 long linesOf(const Paragraph& p, int width) {
     if (p.runs.size() == 1) {
         const Run& run = p.runs.front();
-        if (int n = Glib::TextAdvanceCache::forThisThread().countLines(run.text.view(), width, run.font); n > 0) return n;
+        if (std::optional<int> n = Glib::TextAdvanceCache::forThisThread().countLines(run.text.view(), width, run.font)) return *n;
     }
     return HTMLLayout::layOut(p, width, Glib::kAlignLeft).numLines();
 }

@@ -151,22 +151,22 @@ TextAdvanceCache::FontTable& TextAdvanceCache::tableFor(const FontDesc& font) {
     return *tables_.front();
 }
 
-std::int64_t TextAdvanceCache::measure(std::wstring_view text, const FontDesc& font) {
-    if (!isPairwise(text)) return -1;
+std::optional<std::int64_t> TextAdvanceCache::measure(std::wstring_view text, const FontDesc& font) {
+    if (!isPairwise(text)) return std::nullopt;
     return tableFor(font).run(text);
 }
 
-XY<int> TextAdvanceCache::measurePixels(std::wstring_view text, const FontDesc& font) {
-    if (text.empty() || !isPairwise(text)) return {-1, -1};
+std::optional<XY<int>> TextAdvanceCache::measurePixels(std::wstring_view text, const FontDesc& font) {
+    if (text.empty() || !isPairwise(text)) return std::nullopt;
     FontTable& table = tableFor(font);
     std::int32_t height = 0;
     for (wchar_t c : text) height = std::max(height, table.height(c));
-    return {PANGO_PIXELS_CEIL(table.run(text)), PANGO_PIXELS_CEIL(height)};
+    return XY<int>(PANGO_PIXELS_CEIL(table.run(text)), PANGO_PIXELS_CEIL(height));
 }
 
-int TextAdvanceCache::countLines(std::wstring_view text, int width, const FontDesc& font) {
+std::optional<int> TextAdvanceCache::countLines(std::wstring_view text, int width, const FontDesc& font) {
     for (wchar_t c : text)
-        if (c != L'\n' && !isSimple(c)) return 0;
+        if (c != L'\n' && !isSimple(c)) return std::nullopt;
     std::int64_t limit = width > 0 ? std::int64_t(std::min(width, kWidest)) * PANGO_SCALE : -1;
     FontTable& table = tableFor(font);
     int lines = 0;
@@ -174,7 +174,7 @@ int TextAdvanceCache::countLines(std::wstring_view text, int width, const FontDe
     for (std::size_t start = 0;;) {
         std::size_t end = std::min(text.find(L'\n', start), text.size());
         int n = limit < 0 ? 1 : countParagraph(text.substr(start, end - start), limit, table);
-        if (n == 0) return 0;
+        if (n == 0) return std::nullopt;
         lines += n;
         if (end == text.size()) return lines;
         start = end + 1;

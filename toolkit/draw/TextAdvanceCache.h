@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -23,15 +24,15 @@ public:
     static TextAdvanceCache& forThisThread();
 
     // The number of lines Pango makes of `text` at `width` pixels (0 or less: no
-    // wrapping), or 0 when this cache cannot be sure.
-    int countLines(std::wstring_view text, int width, const FontDesc& font);
-    // The width in Pango units of one line of text, or -1 when it is not simple
+    // wrapping), or nothing when this cache cannot be sure.
+    std::optional<int> countLines(std::wstring_view text, int width, const FontDesc& font);
+    // The width in Pango units of one line of text, or nothing when it is not simple
     // (or holds "ff", which faces may join with what follows into one glyph).
-    std::int64_t measure(std::wstring_view text, const FontDesc& font);
+    std::optional<std::int64_t> measure(std::wstring_view text, const FontDesc& font);
     // One line of text in pixels as Pango's logical extents give it (the width
-    // rounded up, the line height of the tallest face used), or {-1, -1} when the
+    // rounded up, the line height of the tallest face used), or nothing when the
     // text is not simple, as for measure(). Empty text is left to Pango too.
-    XY<int> measurePixels(std::wstring_view text, const FontDesc& font);
+    std::optional<XY<int>> measurePixels(std::wstring_view text, const FontDesc& font);
 
     // How many fonts' advances a thread keeps.
     static constexpr std::size_t kFontsKept = 16;

@@ -134,7 +134,7 @@ std::size_t WordWrappingTextRenderer::indexAt(XY<int> p, int rowHeight) const {
 unsigned short WordWrappingTextRenderer::calcNumDisplayLines(const LightweightString<wchar_t>& text, int width, const FontDesc& font) {
     // A layout costs tens of microseconds even for a short line, too slow for a log that
     // wraps its rows as fast as they come; plain Latin text is counted from cached advances.
-    if (int n = TextAdvanceCache::forThisThread().countLines(text.view(), width, font); n > 0) return clampCount(n);
+    if (std::optional<int> n = TextAdvanceCache::forThisThread().countLines(text.view(), width, font)) return clampCount(*n);
     return WordWrappingTextRenderer(text, font, width).numLines();
 }
 

@@ -1,6 +1,7 @@
 #include "Drawable.h"
 
 #include "EventHandler.h"
+#include "GlobHandle.h"
 
 #include <algorithm>
 
@@ -8,8 +9,7 @@ namespace {
 
 struct Pending {
     Drawable* drawable;
-    EventHandler* owner;
-    IdStamp stamp;
+    GlobHandle<EventHandler> owner;
 };
 
 // Redraws happen on the user-interface thread only, so no lock is needed.
@@ -39,7 +39,7 @@ std::size_t Drawable::pendingCount() { return state().pending.size(); }
 void Drawable::clearPendingRedraws() { state().pending.clear(); }
 
 void Drawable::clearPendingRedraws(const std::function<bool(const Drawable&)>& drop) {
-    std::erase_if(state().pending, [&](const Pending& p) { return !EventHandler::valid(p.owner, p.stamp) || drop(*p.drawable); });
+    std::erase_if(state().pending, [&](const Pending& p) { return !p.owner || drop(*p.drawable); });
 }
 
 void Drawable::update() {
@@ -47,7 +47,7 @@ void Drawable::update() {
     std::vector<Pending> work;
     work.swap(state().pending);
     for (const Pending& p : work)
-        if (EventHandler::valid(p.owner, p.stamp)) p.drawable->paintNow();
+        if (p.owner) p.drawable->paintNow();
 }
 
 void Drawable::redraw() {
@@ -63,5 +63,5 @@ void Drawable::redraw() {
 void Drawable::redrawLater() {
     State& s = state();
     bool already = std::any_of(s.pending.begin(), s.pending.end(), [this](const Pending& p) { return p.drawable == this; });
-    if (!already) s.pending.push_back({this, owner_, owner_ ? owner_->stamp() : IdStamp()});
+    if (!already) s.pending.push_back({this, GlobHandle<EventHandler>(owner_)});
 }

@@ -3,6 +3,7 @@
 #include "GlobManager.h"
 #include "InputDispatcher.h"
 #include "Messaging.h"
+#include "core/Assert.h"
 #include "draw/Canvas.h"
 #include "draw/CanvasRenderer.h"
 #include "draw/Screen.h"
@@ -68,7 +69,8 @@ bool Glob::isLiveGlob(const Glob* g) {
 // ---- children ---------------------------------------------------------------
 
 Glob* Glob::addChild(Glob* child, const WidgetPosition& position, WidgetSurround surround) {
-    if (!child || child == this || isParentedTo(this, child)) return child;
+    MOSAIC_ASSERT(child != this && !isParentedTo(this, child), "a glob added to itself or to one of its own children");
+    if (!child || child == this || isParentedTo(this, child) || !onUIThread()) return child;
     if (child->parent_) child->parent_->detachChild(child);
     GlobManager::instance().forgetRoot(child);
     WidgetDetails d;
@@ -171,13 +173,10 @@ WidgetDetails* Glob::detailsOf(const Glob* child) {
     return nullptr;
 }
 
-void Glob::setLogicalParent(Glob* g) {
-    logicalParentPtr_ = g;
-    logicalParent_ = g ? g->stamp() : IdStamp();
-}
+void Glob::setLogicalParent(Glob* g) { logicalParent_.reset(g); }
 
 Glob* Glob::logicalParent() const {
-    if (logicalParentPtr_ && EventHandler::valid(logicalParentPtr_, logicalParent_)) return logicalParentPtr_;
+    if (Glob* g = logicalParent_.get()) return g;
     return parent_;
 }
 
@@ -282,7 +281,9 @@ void Glob::reshape() {
 }
 
 bool Glob::reparentTo(Glob* newParent) {
-    if (!reparentable_ || !newParent || newParent == parent_ || newParent == this || isParentedTo(newParent, this)) return false;
+    if (!reparentable_) return false;
+    MOSAIC_ASSERT(newParent != this && !isParentedTo(newParent, this), "a glob moved into itself or into one of its own children");
+    if (!newParent || newParent == parent_ || newParent == this || isParentedTo(newParent, this)) return false;
     WidgetDetails d = parent_ ? parent_->getWidget(this) : WidgetDetails();
     // A position hung from an old sibling cannot hold in the new parent.
     if (d.position.origin == kSiblingRelative) d.position = WidgetPosition(kBottomLeft, {x_, y_});
@@ -484,12 +485,12 @@ bool Glob::hasKbdFocus() const { return get_kbd_focus() == this; }
 
 void Glob::setInterest(int bits) {
     interest_ |= bits;
-    if (bits & kTimerInterest) GlobManager::instance().setTimerInterest(this, true);
+    if (bits & Event::kTimer) GlobManager::instance().setTimerInterest(this, true);
 }
 
 void Glob::clearInterest(int bits) {
     interest_ &= ~bits;
-    if (bits & kTimerInterest) GlobManager::instance().setTimerInterest(this, false);
+    if (bits & Event::kTimer) GlobManager::instance().setTimerInterest(this, false);
 }
 
 void Glob::popToTop(bool) { GlobManager::instance().raise(getRootParent(this)); }

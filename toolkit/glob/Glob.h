@@ -2,6 +2,7 @@
 
 #include "Drawable.h"
 #include "EventHandler.h"
+#include "GlobHandle.h"
 #include "MouseCursor.h"
 #include "WidgetDetails.h"
 #include "core/GlobCreationInfo.h"
@@ -225,8 +226,7 @@ public:
     virtual void handleKbdFocus(bool gained) {}
     virtual void relinquishKbdFocus(Glob* next);
     bool hasKbdFocus() const;
-    // The interest bit that asks for timer ticks (handleTimerEvent on panels).
-    static constexpr int kTimerInterest = 4096;
+    // Interest bits: Event::kTimer asks for timer ticks (handleTimerEvent on panels).
     virtual void setInterest(int bits);
     virtual void clearInterest(int bits);
     int interest() const { return interest_; }
@@ -269,8 +269,7 @@ private:
 
     LightweightString<char> name_;
     Glob* parent_ = nullptr;
-    IdStamp logicalParent_;
-    Glob* logicalParentPtr_ = nullptr;
+    GlobHandle<Glob> logicalParent_;
     std::vector<WidgetDetails> children_;
     Canvas* canvas_ = nullptr;
     std::unique_ptr<Canvas> ownCanvas_;

@@ -31,8 +31,6 @@ XY<int> screenSize() {
     return {w, h};
 }
 
-bool stillThere(const std::pair<Glob*, IdStamp>& ref) { return EventHandler::valid(ref.first, ref.second); }
-
 } // namespace
 
 GlobManager& GlobManager::instance() {
@@ -73,7 +71,7 @@ Screen& GlobManager::screen() {
 }
 
 void GlobManager::realize(Glob* g) {
-    if (!is_good_glob_ptr(g) || g->parent()) return;
+    if (!onUIThread() || !is_good_glob_ptr(g) || g->parent()) return;
     if (!isRealized(g)) roots_.push_back(g);
     raise(g);
     g->setVisible(true);
@@ -98,28 +96,28 @@ void GlobManager::raise(Glob* root) {
 }
 
 void GlobManager::requestDeletion(Glob* g) {
-    if (!is_good_glob_ptr(g)) return;
+    if (!onUIThread() || !is_good_glob_ptr(g)) return;
     for (const auto& d : doomed_)
-        if (d.first == g && stillThere(d)) return;
-    doomed_.emplace_back(g, g->stamp());
+        if (d.refersTo(g)) return;
+    doomed_.emplace_back(g);
 }
 
 void GlobManager::deleteDoomed() {
     while (!doomed_.empty()) {
         auto batch = std::move(doomed_);
         doomed_.clear();
-        for (const auto& d : batch) {
+        for (auto& d : batch) {
             // An earlier deletion in this batch may have taken it with its parent.
-            if (!stillThere(d)) continue;
-            d.first->glob_tidy();
-            if (stillThere(d)) delete d.first;
+            if (Glob* g = d.get()) g->glob_tidy();
+            d.deleteGlob();
         }
     }
 }
 
 void GlobManager::forgetGlob(Glob* g) {
     forgetRoot(g);
-    modal_.erase(std::remove_if(modal_.begin(), modal_.end(), [g](const auto& m) { return m.first == g; }), modal_.end());
+    // A dying glob fails its handle already.
+    std::erase_if(modal_, [](const auto& m) { return !m; });
     timerGlobs_.erase(std::remove(timerGlobs_.begin(), timerGlobs_.end(), g), timerGlobs_.end());
     input_->forget(g);
 }
@@ -156,22 +154,22 @@ Glob* GlobManager::find(const LightweightString<char>& name) const {
 }
 
 bool GlobManager::isModal(Glob* g) const {
-    return std::any_of(modal_.begin(), modal_.end(), [g](const auto& m) { return m.first == g && stillThere(m); });
+    return std::any_of(modal_.begin(), modal_.end(), [g](const auto& m) { return m.refersTo(g); });
 }
 
 void GlobManager::addModalGlob(Glob* g, Glob*) {
     if (!is_good_glob_ptr(g) || isModal(g)) return;
-    modal_.emplace_back(g, g->stamp());
+    modal_.emplace_back(g);
     raise(g);
 }
 
 void GlobManager::removeModalGlob(Glob* g) {
-    modal_.erase(std::remove_if(modal_.begin(), modal_.end(), [g](const auto& m) { return m.first == g; }), modal_.end());
+    std::erase_if(modal_, [g](const auto& m) { return m.refersTo(g) || !m; });
 }
 
 Glob* GlobManager::topModal() const {
     for (auto it = modal_.rbegin(); it != modal_.rend(); ++it)
-        if (stillThere(*it)) return it->first;
+        if (Glob* g = it->get()) return g;
     return nullptr;
 }
 
@@ -225,7 +223,7 @@ void GlobManager::redisplay(Glob* g, const XY<int>& pos, eCoordinateOrigin origi
 }
 
 void GlobManager::setKbdFocus(Glob* g) {
-    if (g && !is_good_glob_ptr(g)) return;
+    if (!onUIThread() || (g && !is_good_glob_ptr(g))) return;
     input_->setFocus(g);
 }
 
@@ -238,15 +236,16 @@ void GlobManager::setTimerInterest(Glob* g, bool on) {
 }
 
 void GlobManager::tickTimers() {
-    std::vector<std::pair<Glob*, IdStamp>> ticking;
-    for (Glob* g : timerGlobs_) ticking.emplace_back(g, g->stamp());
+    if (!onUIThread()) return;
+    std::vector<GlobHandle<Glob>> ticking;
+    for (Glob* g : timerGlobs_) ticking.emplace_back(g);
     for (const auto& t : ticking)
-        if (stillThere(t)) t.first->handleEvent(Event::timer());
+        if (Glob* g = t.get()) g->handleEvent(Event::timer());
     if (const EventObserver& o = eventObserver()) o(Event::timer());
     deleteDoomed();
 }
 
-void GlobManager::post(const Event& e, EventHandler* target) { queue_.post({e, target, target ? target->stamp() : IdStamp()}); }
+void GlobManager::post(const Event& e, EventHandler* target) { queue_.post({e, GlobHandle<EventHandler>(target)}); }
 
 std::size_t GlobManager::deliverMessages() {
     queue_.takeAll(delivering_);
@@ -255,7 +254,7 @@ std::size_t GlobManager::deliverMessages() {
         MessageQueue::Item item = std::move(delivering_.front());
         delivering_.pop_front();
         ++n;
-        if (EventHandler::valid(item.target, item.stamp)) item.target->handleEvent(item.event);
+        if (EventHandler* target = item.target.get()) target->handleEvent(item.event);
         // Deletions requested by a handler happen before the next message, never inside it.
         if (!doomed_.empty()) deleteDoomed();
     }
@@ -263,6 +262,7 @@ std::size_t GlobManager::deliverMessages() {
 }
 
 bool GlobManager::processPending() {
+    if (!onUIThread()) return false;
     bool did = deliverMessages() > 0;
     if (!doomed_.empty()) {
         deleteDoomed();
@@ -283,6 +283,7 @@ void GlobManager::runUntilIdle(int maxRounds) {
 void GlobManager::setEventObserver(EventObserver observer) { eventObserver() = std::move(observer); }
 
 void GlobManager::dispatch(const Event& e) {
+    if (!onUIThread()) return;
     input_->dispatch(e);
     if (const EventObserver& o = eventObserver()) o(e);
     deleteDoomed();

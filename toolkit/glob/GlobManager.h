@@ -1,5 +1,6 @@
 #pragma once
 
+#include "GlobHandle.h"
 #include "MessageQueue.h"
 #include "WidgetPosition.h"
 #include "core/GlobCreationInfo.h"
@@ -104,8 +105,8 @@ private:
     std::size_t deliverMessages();
 
     std::vector<Glob*> roots_;
-    std::vector<std::pair<Glob*, IdStamp>> modal_;
-    std::vector<std::pair<Glob*, IdStamp>> doomed_;
+    std::vector<GlobHandle<Glob>> modal_;
+    std::vector<GlobHandle<Glob>> doomed_;
     std::vector<Glob*> timerGlobs_;
     MessageQueue queue_;
     std::deque<MessageQueue::Item> delivering_;

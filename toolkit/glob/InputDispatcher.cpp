@@ -16,43 +16,36 @@ long long steadyMs() {
 }
 } // namespace
 
-Glob* InputDispatcher::Ref::get() const { return EventHandler::valid(glob, stamp) ? glob : nullptr; }
-
-void InputDispatcher::Ref::set(Glob* g) {
-    glob = g;
-    stamp = g ? g->stamp() : IdStamp();
-}
-
 Glob* InputDispatcher::focus() const { return focus_.get(); }
 Glob* InputDispatcher::capture() const { return capture_.get(); }
 Glob* InputDispatcher::hover() const { return hover_.get(); }
 
-void InputDispatcher::Ref::change(Glob* g, void (Glob::*tell)(bool)) {
-    Glob* old = get();
+void InputDispatcher::change(Ref& ref, Glob* g, void (Glob::*tell)(bool)) {
+    Glob* old = ref.get();
     if (old == g) return;
-    set(g);
+    ref.reset(g);
     if (old) (old->*tell)(false);
     // The old glob's handler may have moved the reference on, or deleted `g`.
-    if (g && get() == g) (g->*tell)(true);
+    if (g && ref.get() == g) (g->*tell)(true);
 }
 
-void InputDispatcher::setFocus(Glob* g) { focus_.change(g, &Glob::handleKbdFocus); }
+void InputDispatcher::setFocus(Glob* g) { change(focus_, g, &Glob::handleKbdFocus); }
 
-void InputDispatcher::forget(Glob* g) {
+void InputDispatcher::forget(Glob*) {
+    // A dying glob already fails its handles: drop every handle that fails.
     for (Ref* r : {&focus_, &capture_, &hover_, &moving_, &it_})
-        if (r->glob == g) *r = Ref();
-    stopWatchingPressesOutside(g);
+        if (!*r) r->reset();
+    std::erase_if(outsideWatchers_, [](const Ref& r) { return !r; });
 }
 
 void InputDispatcher::watchPressesOutside(Glob* g) {
     if (!g) return;
     stopWatchingPressesOutside(g);
-    outsideWatchers_.emplace_back();
-    outsideWatchers_.back().set(g);
+    outsideWatchers_.emplace_back(g);
 }
 
 void InputDispatcher::stopWatchingPressesOutside(Glob* g) {
-    std::erase_if(outsideWatchers_, [g](const Ref& r) { return r.glob == g; });
+    std::erase_if(outsideWatchers_, [g](const Ref& r) { return !r || r.refersTo(g); });
 }
 
 bool InputDispatcher::pressedOutside(const Event& e) {
@@ -74,12 +67,12 @@ bool InputDispatcher::pressedOutside(const Event& e) {
 Glob* InputDispatcher::it() const { return it_.get(); }
 
 void InputDispatcher::setIt(Glob* root) {
-    if (root && root->canBeIt()) it_.change(root, &Glob::handle_it);
+    if (root && root->canBeIt()) change(it_, root, &Glob::handle_it);
 }
 
 void InputDispatcher::startMoving(Glob* root, XY<int> grab) {
     if (!root || root->parent()) return;
-    moving_.set(root);
+    moving_.reset(root);
     moveGrab_ = grab;
     moveOrigin_ = {root->getX(), root->getY()};
 }
@@ -93,13 +86,14 @@ bool InputDispatcher::moveWithMouse(const Event& e) {
 }
 
 bool InputDispatcher::intercepted(Glob* target, const Event& e) {
-    std::vector<std::pair<Glob*, IdStamp>> chain;
-    for (Glob* g = target->parent(); g; g = g->parent()) chain.emplace_back(g, g->stamp());
+    std::vector<Ref> chain;
+    for (Glob* g = target->parent(); g; g = g->parent()) chain.emplace_back(g);
     for (auto it = chain.rbegin(); it != chain.rend(); ++it) {
-        if (!EventHandler::valid(it->first, it->second)) return true;
+        Glob* g = it->get();
+        if (!g) return true;
         Event local = e;
-        local.setLocalPos(it->first->screenXYToGlobXY(e.screenPos()));
-        if (it->first->intercept(local)) return true;
+        local.setLocalPos(g->screenXYToGlobXY(e.screenPos()));
+        if (g->intercept(local)) return true;
     }
     return false;
 }
@@ -133,21 +127,18 @@ Glob* InputDispatcher::targetForKeys() const {
 
 Glob* InputDispatcher::bubble(Glob* g, Event e) {
     while (g) {
-        IdStamp stamp = g->stamp();
-        Glob* parent = g->parent();
-        IdStamp parentStamp = parent ? parent->stamp() : IdStamp();
+        const Ref self(g), parent(g->parent());
         if (g->isActive() || !mouse_event(e)) {
             e.setLocalPos(g->screenXYToGlobXY(e.screenPos()));
-            if (g->handleEvent(e)) return EventHandler::valid(g, stamp) ? g : nullptr;
+            if (g->handleEvent(e)) return self.get();
         }
         // The handler may have deleted the glob, or its parent.
-        if (!EventHandler::valid(parent, parentStamp)) return nullptr;
-        g = parent;
+        g = parent.get();
     }
     return nullptr;
 }
 
-void InputDispatcher::updateHover(Glob* g) { hover_.change(g, &Glob::handleMouseContainment); }
+void InputDispatcher::updateHover(Glob* g) { change(hover_, g, &Glob::handleMouseContainment); }
 
 void InputDispatcher::countClicks(Event& e) {
     long long now = steadyMs();
@@ -169,7 +160,7 @@ void InputDispatcher::dispatch(const Event& event) {
         if (!target) return;
         if (e.type() == Event::kMouseDown) {
             countClicks(e);
-            capture_.set(target);
+            capture_.reset(target);
             target->popToTop(true);
             setIt(getRootParent(target));
             if (target->acceptsKbdFocus() && target->isActive()) setFocus(target);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "GlobHandle.h"
 #include "core/Event.h"
 
 #include <vector>
@@ -32,14 +33,9 @@ public:
     void stopWatchingPressesOutside(Glob* g);
 
 private:
-    struct Ref {
-        Glob* glob = nullptr;
-        IdStamp stamp;
-        Glob* get() const;
-        void set(Glob* g);
-        // Points at `g`, telling the glob it leaves and the one it reaches.
-        void change(Glob* g, void (Glob::*tell)(bool));
-    };
+    using Ref = GlobHandle<Glob>;
+    // Points `ref` at `g`, telling the glob it leaves and the one it reaches.
+    static void change(Ref& ref, Glob* g, void (Glob::*tell)(bool));
 
     Glob* targetForMouse(const Event& e) const;
     Glob* targetForKeys() const;

@@ -1,21 +1,19 @@
 #pragma once
 
+#include "GlobHandle.h"
 #include "core/Event.h"
 
 #include <deque>
 #include <mutex>
 
-class EventHandler;
-
 // Messages on their way to the user-interface thread. Any thread may post; only
-// the user-interface thread takes. Each message remembers its target's stamp, so a
+// the user-interface thread takes. Each message holds its target by a handle, so a
 // target that dies before delivery simply misses it.
 class MessageQueue {
 public:
     struct Item {
         Event event;
-        EventHandler* target = nullptr;
-        IdStamp stamp;
+        GlobHandle<EventHandler> target;
     };
 
     void post(Item item);

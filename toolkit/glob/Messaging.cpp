@@ -2,6 +2,7 @@
 
 #include "EventHandler.h"
 #include "GlobManager.h"
+#include "core/Assert.h"
 
 #include <atomic>
 #include <thread>
@@ -27,6 +28,12 @@ int co_pid() {
     return id;
 }
 
+bool onUIThread() {
+    const bool on = co_pid() == 0;
+    MOSAIC_ASSERT(on, "a user-interface operation called off the user-interface thread");
+    return on;
+}
+
 void sendMessage(const LightweightString<char>& name, EventHandler* target, iObject* sender, bool) { sendMessageWithData(name, target, {}, sender); }
 
 void sendMessageWithData(const LightweightString<char>& name, EventHandler* target, const Zn::Ptr<iObject>& data, iObject* sender) {
@@ -37,7 +44,7 @@ void sendMessageWithData(const LightweightString<char>& name, EventHandler* targ
 int callMessage(const LightweightString<char>& name, EventHandler* target, iObject* sender) { return callMessageWithData(name, target, {}, sender); }
 
 int callMessageWithData(const LightweightString<char>& name, EventHandler* target, const Zn::Ptr<iObject>& data, iObject* sender) {
-    if (!EventHandler::isLive(target)) return 0;
+    if (!onUIThread() || !EventHandler::isLive(target)) return 0;
     return target->handleEvent(Event::message(name, asHandler(sender), data));
 }
 

@@ -18,6 +18,9 @@ int callMessageWithData(const LightweightString<char>& name, EventHandler* targe
 
 // 0 on the user-interface thread, a positive number on any other.
 int co_pid();
+// True on the user-interface thread. Anything that touches widgets calls it and
+// refuses a call from another thread, where a debug build stops.
+bool onUIThread();
 // Makes the calling thread the user-interface thread; until then it is the
 // process's first thread.
 void setUIThread();

@@ -15,14 +15,15 @@ SuspendRefreshOffToggle::SuspendRefreshOffToggle(int mode) {
             c->refreshOn();
             ++depth;
         }
-        suspended_.push_back({root, root->stamp(), depth});
+        suspended_.push_back({GlobHandle<Glob>(root), depth});
     }
     if (!suspended_.empty()) GlobManager::instance().screenChanged();
 }
 
 SuspendRefreshOffToggle::~SuspendRefreshOffToggle() {
     for (const Suspended& s : suspended_) {
-        if (!EventHandler::valid(s.glob, s.stamp) || !s.glob->canvas()) continue;
-        for (int i = 0; i < s.depth; ++i) s.glob->canvas()->refreshOff();
+        Glob* g = s.glob.get();
+        if (!g || !g->canvas()) continue;
+        for (int i = 0; i < s.depth; ++i) g->canvas()->refreshOff();
     }
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/IdStamp.h"
+#include "GlobHandle.h"
 
 #include <vector>
 
@@ -20,8 +20,7 @@ public:
 
 private:
     struct Suspended {
-        Glob* glob;
-        IdStamp stamp;
+        GlobHandle<Glob> glob;
         int depth;
     };
     std::vector<Suspended> suspended_;

@@ -5,12 +5,10 @@
 
 #include <algorithm>
 
-bool TabOrderManager::Stop::alive() const { return EventHandler::valid(glob, stamp); }
-
 void TabOrderManager::addTabStop(TabOrderable& stop, unsigned int position) {
     Glob* g = stop.tabGlob();
     if (!g) return;
-    Stop s{&stop, g, g->stamp()};
+    Stop s{&stop, GlobHandle<Glob>(g)};
     if (position >= stops_.size())
         stops_.push_back(s);
     else
@@ -30,19 +28,20 @@ void TabOrderManager::removeTabStop(TabOrderable& stop) {
 }
 
 bool TabOrderManager::move(int direction) {
-    stops_.erase(std::remove_if(stops_.begin(), stops_.end(), [](const Stop& s) { return !s.alive(); }), stops_.end());
+    stops_.erase(std::remove_if(stops_.begin(), stops_.end(), [](const Stop& s) { return !s.glob; }), stops_.end());
     int n = static_cast<int>(stops_.size());
     if (n == 0) return false;
     Glob* focus = get_kbd_focus();
     int current = -1;
     for (int i = 0; i < n; ++i)
-        if (stops_[i].glob == focus) current = i;
+        if (stops_[i].glob.refersTo(focus)) current = i;
     if (current < 0) current = direction > 0 ? n - 1 : 0;
     for (int step = 1; step <= n; ++step) {
         const Stop& s = stops_[((current + direction * step) % n + n) % n];
-        if (s.glob->isShowing() && s.glob->isActive() && s.stop->canTakeTabFocus()) {
-            set_kbd_focus(s.glob);
-            return get_kbd_focus() == s.glob;
+        Glob* g = s.glob.get();
+        if (g && g->isShowing() && g->isActive() && s.stop->canTakeTabFocus()) {
+            set_kbd_focus(g);
+            return get_kbd_focus() == g;
         }
     }
     return false;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/IdStamp.h"
+#include "GlobHandle.h"
 
 #include <vector>
 
@@ -40,13 +40,10 @@ public:
     bool decrementTabStop();
 
 private:
-    // A stop remembers its glob's stamp: the stop is usually the glob itself, so it
-    // is touched only while that glob lives.
+    // The stop is usually the glob itself, so it is touched only while that glob lives.
     struct Stop {
         TabOrderable* stop;
-        Glob* glob;
-        IdStamp stamp;
-        bool alive() const;
+        GlobHandle<Glob> glob;
     };
     bool move(int direction);
     std::vector<Stop> stops_;

@@ -8,8 +8,8 @@ bool fireCallback(Glob* sender, WidgetCallback callback) {
 }
 
 bool fireCallback(Glob* sender, WidgetCallback callback, EventHandler* recipient) {
-    const IdStamp me = sender ? sender->stamp() : IdStamp();
-    if (callback.invoke()) return !sender || EventHandler::valid(sender, me);
+    const GlobHandle<Glob> alive(sender);
+    if (callback.invoke()) return !sender || alive;
     if (callback.message().empty() || !sender || !recipient) return true;
     if (callback.payload())
         sendMessageWithData(callback.message(), recipient, callback.payload(), sender);

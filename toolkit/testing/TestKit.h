@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/Assert.h"
 #include "core/Event.h"
 #include "glob/Glob.h"
 
@@ -84,19 +85,26 @@ ProgramRun runProgram(const std::string& commandLine);
 template <class T>
 class Owned {
 public:
-    explicit Owned(T* g) : g_(g), stamp_(g->stamp()) {}
-    ~Owned() {
-        if (EventHandler::valid(g_, stamp_)) delete g_;
-    }
-    Owned(const Owned&) = delete;
-    Owned& operator=(const Owned&) = delete;
-    T* get() const { return g_; }
-    T* operator->() const { return g_; }
-    T& operator*() const { return *g_; }
+    explicit Owned(T* g) : g_(g, true) {}
+    T* get() const { return g_.get(); }
+    T* operator->() const { return get(); }
+    T& operator*() const { return *get(); }
 
 private:
-    T* g_;
-    IdStamp stamp_;
+    GlobHandle<T> g_;
 };
 
 } // namespace TestKit
+
+// Runs `statement`, which breaks a MOSAIC_ASSERT: where assertions are compiled in,
+// the statement must stop the program with `why` on standard error; in a release
+// build it runs, so that the checks after it test the quiet path.
+#if MOSAIC_ASSERTS_ACTIVE
+#define EXPECT_MOSAIC_ASSERT(statement, why)                                                                                                         \
+    do {                                                                                                                                             \
+        GTEST_FLAG_SET(death_test_style, "threadsafe");                                                                                              \
+        EXPECT_DEATH(statement, why);                                                                                                                \
+    } while (0)
+#else
+#define EXPECT_MOSAIC_ASSERT(statement, why) statement
+#endif

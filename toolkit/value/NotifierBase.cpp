@@ -1,6 +1,7 @@
 #include "NotifierBase.h"
 
 #include "NotifyMsgTypeDictionary.h"
+#include "core/Assert.h"
 
 #include <mutex>
 
@@ -28,12 +29,16 @@ void NotifierBase::Core::sweep() {
 
 NotifierBase::NotifierBase() : core_(std::make_shared<Core>()) { core_->list.ownsRecords(true); }
 
-NotifierBase::~NotifierBase() { dropRegistrations(); }
+NotifierBase::~NotifierBase() {
+    MOSAIC_ASSERT(core_->depth == 0, "a notifier destroyed by a callback of its own delivery");
+    dropRegistrations();
+}
 
 void NotifierBase::dropRegistrations() {
     std::lock_guard<CriticalSection> g(core_->lock);
     core_->alive = false;
-    core_->list.clear();
+    // A delivery under way still walks the list; it empties it when it ends.
+    if (core_->depth == 0) core_->list.clear();
 }
 
 Zn::Ptr<Zn::Guard> NotifierBase::registerInternal(CallbackInvokerBase* record) {
@@ -61,14 +66,21 @@ std::size_t NotifierBase::numRegistrations() const {
 }
 
 void NotifierBase::deliver(DLList::ApplyFn fn, void* data) const {
-    Core& c = *core_;
+    // Held here, not through `this`: a callback that destroys the notifier leaves
+    // the loop its list to finish on.
+    const std::shared_ptr<Core> core = core_;
+    Core& c = *core;
     std::lock_guard<CriticalSection> g(c.lock);
     DLListRec* last = c.list.last();
     if (!last) return;
     ++c.depth;
-    for (DLListRec* r = c.list.first();; r = r->next()) {
+    for (DLListRec* r = c.list.first(); c.alive; r = r->next()) {
         if (!static_cast<CallbackInvokerBase*>(r)->released()) fn(r, data);
         if (r == last) break;
     }
-    if (--c.depth == 0 && c.anyReleased && c.alive) c.sweep();
+    if (--c.depth > 0) return;
+    if (!c.alive)
+        c.list.clear();
+    else if (c.anyReleased)
+        c.sweep();
 }

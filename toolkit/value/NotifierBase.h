@@ -10,8 +10,11 @@
 // The registrations of a notifier, in order, under its lock. A registration lasts
 // as long as the guard it returns is held; a guard that outlives the notifier is
 // harmless. Delivery may nest on one thread: a callback may register, release, or
-// issue again on the same notifier, but not destroy it.
+// issue again on the same notifier, but not destroy it (a debug build stops there;
+// a release build ends the delivery at that callback, safely).
 class NotifierBase {
+    struct Core;
+
 public:
     NotifierBase();
     virtual ~NotifierBase();
@@ -26,6 +29,19 @@ public:
     CriticalSection& criticalSection() const { return core_->lock; }
 
 protected:
+    // The notifier's lock for a scope; it stays good if a callback in the scope
+    // destroys the notifier.
+    class ScopedLock {
+    public:
+        explicit ScopedLock(const NotifierBase& n) : core_(n.core_) { core_->lock.lock(); }
+        ~ScopedLock() { core_->lock.unlock(); }
+        ScopedLock(const ScopedLock&) = delete; // one unlock per lock
+        ScopedLock& operator=(const ScopedLock&) = delete;
+
+    private:
+        std::shared_ptr<Core> core_;
+    };
+
     // Calls `fn` on each registration in order, under the lock. Registrations made
     // during delivery wait for the next notice; released ones are skipped.
     void deliver(DLList::ApplyFn fn, void* data) const;

@@ -58,7 +58,7 @@ public:
         if (!manager_) {
             value_.store(v, this->criticalSection());
         } else {
-            std::lock_guard<CriticalSection> g(this->criticalSection());
+            typename NotifierBase::ScopedLock g(*this);
             T local = v;
             if (!manager_->requestValChange(this, local)) return false;
             value_.store(local, this->criticalSection());
@@ -74,7 +74,7 @@ public:
 private:
     void notify(int type) {
         if (!this->hasRegistrations()) return;
-        std::lock_guard<CriticalSection> g(this->criticalSection());
+        typename NotifierBase::ScopedLock g(*this);
         NotifierEvent<T> e;
         e.value = value();
         this->issueNotification(e, type);

@@ -1,5 +1,4 @@
 #include "frame/FactoryGlobWrapper.h"
-#include "frame/GlobHandle.h"
 #include "frame/OccludedChildWidget.h"
 
 #include "draw/Canvas.h"
@@ -35,36 +34,6 @@ void paintOverMarker(StandardPanel& w, const Colour& marker) {
 }
 
 } // namespace
-
-TEST_F(Frame, GlobHandleNeverTouchesAGoneOrReplacedWidget) {
-    GlobCreationInfo info(10, 10);
-    // Two widgets made one after the other in the same storage, so that the second
-    // surely takes the first one's address.
-    void* storage = ::operator new(sizeof(Clear));
-    auto* first = new (storage) Clear(info);
-    GlobHandle<Clear> handle(first);
-    EXPECT_EQ(handle.get(), first);
-    first->~Clear();
-    EXPECT_FALSE(handle.valid());
-    auto* other = new (storage) Clear(info);
-    ASSERT_EQ(static_cast<void*>(other), static_cast<void*>(first));
-    IdStamp otherStamp = other->stamp();
-    EXPECT_EQ(handle.get(), nullptr) << "the widget at the old address is not the handle's";
-    handle.deleteGlob();
-    EXPECT_TRUE(EventHandler::valid(other, otherStamp)) << "nor is it the handle's to delete";
-    EXPECT_FALSE(handle.stamp().valid());
-    other->~Clear();
-    ::operator delete(storage);
-
-    Clear* owned = new Clear(info);
-    IdStamp ownedStamp = owned->stamp();
-    {
-        GlobHandle<Clear> owner(owned, true);
-        GlobHandle<Clear> moved(std::move(owner));
-        EXPECT_FALSE(owner.valid());
-    }
-    EXPECT_FALSE(EventHandler::valid(owned, ownedStamp)) << "an owning handle deletes its widget, once";
-}
 
 TEST_F(Frame, WrapperOfAKindThatCannotBeMadeStillSizesAndPaints) {
     TestKit::Owned<FactoryGlobWrapper> w(new FactoryGlobWrapper(wrapperArgs("NoSuchKind", 60, 40)));

@@ -44,7 +44,7 @@ TEST_F(AutoProgressBars, NoStepsAtAllNeverMakeABar) {
 }
 
 TEST_F(AutoProgressBars, TheTitleIsTheLiteralTextOrTheResourceStringWithAnEllipsis) {
-    EXPECT_EQ(AutoProgressBar(nullptr, UIString(L"Copying clips"), 10).title(), L"Copying clips..") << "id 999999 is the text itself";
+    EXPECT_EQ(AutoProgressBar(nullptr, UIString(L"Copying clips"), 10).title(), L"Copying clips..") << "id kNoResource is the text itself";
     EXPECT_EQ(AutoProgressBar(nullptr, UIString(L"ignored", 350), 10).title(), L"Working..");
     EXPECT_EQ(AutoProgressBar(nullptr, UIString(L"", UIString::kNoResource), 10).title(), L"") << "no ellipsis on nothing";
 

@@ -95,7 +95,7 @@ TEST_F(TutorialFile, ReadingKeepsTheTargetAndTheOriginWhenAFileHasBoth) {
         "message":{"origin":"TopLeft","target":"Viewer","relativity":"Below","text":"hi"}}]})");
     auto p = t->getPhase(0);
     EXPECT_EQ(p->pointer.target, L"Viewer");
-    EXPECT_EQ(p->pointer.x, Tutorial::kNoCoordinate);
+    EXPECT_EQ(p->pointer.x, Glob::kUnset);
     EXPECT_EQ(p->message.origin, kTopLeft);
     EXPECT_TRUE(p->message.target.empty());
     EXPECT_EQ(p->message.relativity, kBelow) << "the side keeps its default";
@@ -104,13 +104,13 @@ TEST_F(TutorialFile, ReadingKeepsTheTargetAndTheOriginWhenAFileHasBoth) {
 TEST_F(TutorialFile, PointerValidityAndCoordinateDefaults) {
     auto t = fromText(R"({"phases":[{"pointer":{"x":7}}, {"pointer":{}}, {"pointer":{"y":3}}]})");
     EXPECT_TRUE(t->getPhase(0)->pointer.valid());
-    EXPECT_EQ(t->getPhase(0)->pointer.y, Tutorial::kNoCoordinate);
+    EXPECT_EQ(t->getPhase(0)->pointer.y, Glob::kUnset);
     EXPECT_FALSE(t->getPhase(1)->pointer.valid());
     EXPECT_FALSE(t->getPhase(2)->pointer.valid()) << "y plays no part in validity";
 
     Tutorial w;
     auto invalid = phase();
-    invalid->pointer.x = Tutorial::kNoCoordinate;
+    invalid->pointer.x = Glob::kUnset;
     invalid->pointer.y = 5;
     w.addPhase(invalid);
     w.save(path("w.ZnTutorial"));

@@ -46,7 +46,7 @@ TEST(UIString, LiteralTextResourceLookupAndEllipsis) {
     EXPECT_EQ(UIString(L"Render").resId(), UIString::kNoResource);
     EXPECT_EQ(UIString(424242).getString(), L"Export");
     EXPECT_EQ(UIString(424242, 0, UIString::kEllipsisFlag).getString(), L"Export..");
-    // The id 999999 never looks anything up, even with no text.
+    // The id kNoResource never looks anything up, even with no text.
     EXPECT_EQ(UIString(UIString::kNoResource).getString(), L"");
     EXPECT_EQ(UIString(987654).getString(), L"");
     EXPECT_TRUE(UIString().empty());

@@ -87,23 +87,23 @@ TEST(TextAdvanceCache, PixelMeasuresAreExactlyPangosForEveryFaceOfTheToolkit) {
     for (Glib::FontDesc font : {base, base.withStyle(Glib::FontDesc::kBold), base.withStyle(Glib::FontDesc::kItalic), base.withSize(9),
                                 base.withSize(31), Glib::FontDesc(getDefaultFontName(1), 12, Glib::FontDesc::kMonospace)}) {
         for (const auto& text : texts) {
-            XY<int> fast = cache.measurePixels(text.view(), font);
-            if (fast.x < 0) continue;
+            std::optional<XY<int>> fast = cache.measurePixels(text.view(), font);
+            if (!fast) continue;
             ++answered;
             XY<int> slow = pangoSize(text, font);
-            ASSERT_EQ(fast.x, slow.x) << "\"" << text << "\" size " << font.size << " style " << font.style;
-            ASSERT_EQ(fast.y, slow.y) << "\"" << text << "\"";
+            ASSERT_EQ(fast->x, slow.x) << "\"" << text << "\" size " << font.size << " style " << font.style;
+            ASSERT_EQ(fast->y, slow.y) << "\"" << text << "\"";
             EXPECT_EQ(Glib::measureText(text, font), XY<int>(slow.x, std::max(slow.y, Glib::fontHeight(font))));
         }
     }
     // The random lines hold "offline" and "ffi" often; most of the rest stays fast.
     EXPECT_GT(answered, int(texts.size()) * 3);
     EXPECT_EQ(cache.measure(L"", base), 0);
-    EXPECT_EQ(cache.measure(L"office", base), -1) << "three letters become one glyph";
+    EXPECT_FALSE(cache.measure(L"office", base)) << "three letters become one glyph";
     EXPECT_EQ(cache.measurePixels(L"fluid flow", base), pangoSize(L"fluid flow", base)) << "two-letter ligatures are pairs";
     // Text the cache leaves alone, and the empty string, still measure through Pango.
     for (const wchar_t* t : {L"", L"tab\there", L"\u6e32\u67d3", L"a-b"}) {
-        EXPECT_EQ(cache.measurePixels(t, base), XY<int>(-1, -1));
+        EXPECT_FALSE(cache.measurePixels(t, base));
         EXPECT_EQ(Glib::measureText(t, base).x, pangoSize(t, base).x);
     }
 }
@@ -117,12 +117,12 @@ TEST(TextAdvanceCache, CountsAgreeWithPangoWheneverTheCacheAnswers) {
         for (const auto& more : logLines(120, 1234)) lines.push_back(more);
         for (const auto& line : lines) {
             for (int width = 30; width < 700; width += 23) {
-                int fast = cache.countLines(line.view(), width, font);
+                std::optional<int> fast = cache.countLines(line.view(), width, font);
                 // Log panels are hundreds of pixels wide; narrow widths mostly meet words wider than a line.
                 if (width >= 200) ++asked;
-                if (fast == 0) continue;
+                if (!fast) continue;
                 if (width >= 200) ++answered;
-                ASSERT_EQ(fast, pangoLines(line, width, font)) << "\"" << line << "\" at " << width << " px, size " << font.size;
+                ASSERT_EQ(*fast, pangoLines(line, width, font)) << "\"" << line << "\" at " << width << " px, size " << font.size;
             }
         }
         EXPECT_GT(answered, asked * 9 / 10) << answered << " of " << asked << ": "
@@ -135,9 +135,9 @@ TEST(TextAdvanceCache, ParagraphsAndNoWrappingCountLikePango) {
     Glib::FontDesc font = Glib::getDefaultFont();
     for (const wchar_t* text : {L"a\n\nb", L"a\n", L"\n", L"", L"   ", L"one two\nthree four five six seven eight nine ten"}) {
         for (int width : {0, -5, 80, 400}) {
-            int fast = cache.countLines(text, width, font);
-            ASSERT_NE(fast, 0) << text;
-            EXPECT_EQ(fast, pangoLines(text, width, font)) << "\"" << LightweightString<wchar_t>(text) << "\" at " << width;
+            std::optional<int> fast = cache.countLines(text, width, font);
+            ASSERT_TRUE(fast) << text;
+            EXPECT_EQ(*fast, pangoLines(text, width, font)) << "\"" << LightweightString<wchar_t>(text) << "\" at " << width;
         }
     }
     EXPECT_EQ(cache.countLines(L"a\n\nb", 0, font), 3);
@@ -157,18 +157,18 @@ TEST(TextAdvanceCache, OtherScriptsAndBreakingPunctuationGoToPango) {
                                       L"\u00abquote\u00bb",
                                       L"cr\rlf"};
     for (const wchar_t* text : complex) {
-        EXPECT_EQ(cache.countLines(text, 60, font), 0) << LightweightString<wchar_t>(text);
-        EXPECT_EQ(cache.measure(text, font), -1);
+        EXPECT_FALSE(cache.countLines(text, 60, font)) << LightweightString<wchar_t>(text);
+        EXPECT_FALSE(cache.measure(text, font));
         EXPECT_EQ(WordWrappingTextRenderer::calcNumDisplayLines(text, 60, font), pangoLines(text, 60, font)) << "the fallback is Pango";
     }
     // An opening bracket keeps the next word on its line, across spaces too.
     for (int width = 40; width < 200; width += 3) {
-        if (int fast = cache.countLines(L"Render clip (  proxy ) [ 1080p ] done", width, font)) {
-            EXPECT_EQ(fast, pangoLines(L"Render clip (  proxy ) [ 1080p ] done", width, font)) << width;
+        if (std::optional<int> fast = cache.countLines(L"Render clip (  proxy ) [ 1080p ] done", width, font)) {
+            EXPECT_EQ(*fast, pangoLines(L"Render clip (  proxy ) [ 1080p ] done", width, font)) << width;
         }
     }
     // A word too wide for the line is broken inside by Pango; the cache leaves it.
-    EXPECT_EQ(cache.countLines(L"Supercalifragilistic", 30, font), 0);
+    EXPECT_FALSE(cache.countLines(L"Supercalifragilistic", 30, font));
     EXPECT_EQ(WordWrappingTextRenderer::calcNumDisplayLines(L"Supercalifragilistic", 30, font), pangoLines(L"Supercalifragilistic", 30, font));
 }
 

@@ -1,5 +1,6 @@
 #include "Blocks.h"
 
+#include "glob/GlobHandle.h"
 #include "glob/GlobManager.h"
 #include "glob/Messaging.h"
 
@@ -136,4 +137,38 @@ TEST_F(GlobLifetime, AddingAGlobToItsOwnDescendantIsRefused) {
     inner->addChild(other, Glob::BottomLeft(0, 0));
     EXPECT_FALSE(GlobManager::instance().isRealized(other));
     EXPECT_EQ(other->canvas(), outer->canvas());
+}
+
+TEST_F(GlobLifetime, AHandleNeverTouchesAGoneOrReplacedWidgetAndOnlyItsOwnerDeletes) {
+    GlobCreationInfo info(10, 10);
+    // Two widgets made one after the other in the same storage, so that the second
+    // surely takes the first one's address.
+    void* storage = ::operator new(sizeof(Glob));
+    auto* first = new (storage) Glob(info);
+    GlobHandle<Glob> handle(first);
+    EXPECT_EQ(handle.get(), first);
+    first->~Glob();
+    EXPECT_FALSE(handle.valid());
+    auto* other = new (storage) Glob(info);
+    ASSERT_EQ(static_cast<void*>(other), static_cast<void*>(first));
+    const IdStamp otherStamp = other->stamp();
+    EXPECT_EQ(handle.get(), nullptr) << "the widget at the old address is not the handle's";
+    handle.deleteGlob();
+    EXPECT_TRUE(EventHandler::valid(other, otherStamp)) << "nor is it the handle's to delete";
+    EXPECT_FALSE(handle.stamp().valid());
+    other->~Glob();
+    ::operator delete(storage);
+
+    Glob* owned = new Glob(info);
+    const IdStamp ownedStamp = owned->stamp();
+    {
+        GlobHandle<Glob> owner(owned, true);
+        GlobHandle<Glob> copy(owner);
+        EXPECT_FALSE(copy.isOwning());
+        GlobHandle<Glob> moved(std::move(owner));
+        EXPECT_FALSE(owner.valid());
+        copy.reset();
+        EXPECT_TRUE(moved.valid()) << "a copy going deletes nothing";
+    }
+    EXPECT_FALSE(EventHandler::valid(owned, ownedStamp)) << "an owning handle deletes its widget, once";
 }

@@ -103,6 +103,22 @@ TEST_F(Messaging, AMessageToADeadGlobIsDropped) {
     TestKit::pump();
 }
 
+TEST_F(Messaging, WidgetsTouchedOffTheUIThreadStopADebugBuildAndAreRefusedInRelease) {
+    Owned<Recorder> r(new Recorder);
+    GlobManager& gm = GlobManager::instance();
+    auto fromWorker = [&] {
+        std::thread([&] {
+            gm.realize(r.get());
+            gm.requestDeletion(r.get());
+            callMessage("hello", r.get());
+        }).join();
+    };
+    EXPECT_MOSAIC_ASSERT(fromWorker(), "off the user-interface thread");
+    EXPECT_FALSE(gm.isRealized(r.get()));
+    EXPECT_EQ(gm.pendingDeletions(), 0u);
+    EXPECT_TRUE(r->names.empty());
+}
+
 TEST_F(Messaging, TimerTicksReachGlobsThatAskedForThem) {
     struct Ticker : StandardPanel {
         Ticker() : StandardPanel(10, 10) {}
@@ -112,11 +128,11 @@ TEST_F(Messaging, TimerTicksReachGlobsThatAskedForThem) {
     Owned<Ticker> t(new Ticker);
     GlobManager::instance().tickTimers();
     EXPECT_EQ(t->ticks, 0);
-    t->setInterest(Glob::kTimerInterest);
+    t->setInterest(Event::kTimer);
     GlobManager::instance().tickTimers();
     GlobManager::instance().tickTimers();
     EXPECT_EQ(t->ticks, 2);
-    t->clearInterest(Glob::kTimerInterest);
+    t->clearInterest(Event::kTimer);
     GlobManager::instance().tickTimers();
     EXPECT_EQ(t->ticks, 2);
 }

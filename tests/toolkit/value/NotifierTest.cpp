@@ -1,5 +1,6 @@
 #include "value/Notifier.h"
 #include "core/FunctionCallback.h"
+#include "testing/TestKit.h"
 
 #include <gtest/gtest.h>
 
@@ -64,6 +65,24 @@ TEST(Notifier, ACallbackMayRegisterAndReleaseDuringDelivery) {
     EXPECT_EQ(late, 0) << "a registration made during delivery waits for the next notice";
     n.issueNotification(NotifyMsg("y"), 3);
     EXPECT_EQ(late, 1);
+}
+
+TEST(Notifier, OneDestroyedByItsOwnCallbackStopsADebugBuildAndEndsTheDeliveryInRelease) {
+    auto* n = new Notifier;
+    std::atomic<int> later{0};
+    std::vector<LightweightString<char>> names;
+    auto killer = n->addListener(
+        Zn::Ptr<iCallbackBase<int, NotifyMsg>>(new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([&](const NotifyMsg& m) {
+            if (m.name() == "x") delete n;
+            return 0;
+        }))));
+    auto after = n->addListener(counter(later, &names));
+    EXPECT_MOSAIC_ASSERT(n->issueNotification(NotifyMsg("x"), 3), "a notifier destroyed by a callback of its own delivery");
+#if MOSAIC_ASSERTS_ACTIVE
+    delete n;
+#else
+    EXPECT_EQ(names, std::vector<LightweightString<char>>{"notifierGone"}) << "the listeners after it hear the end, not the notice";
+#endif
 }
 
 TEST(Notifier, ThreadsIssueAndRegisterAtOnce) {
