@@ -29,13 +29,11 @@ void NotifierBase::Core::sweep() {
 
 NotifierBase::NotifierBase() : core_(std::make_shared<Core>()) { core_->list.ownsRecords(true); }
 
-NotifierBase::~NotifierBase() {
-    MOSAIC_ASSERT(core_->depth == 0, "a notifier destroyed by a callback of its own delivery");
-    dropRegistrations();
-}
+NotifierBase::~NotifierBase() { dropRegistrations(); }
 
 void NotifierBase::dropRegistrations() {
     std::lock_guard<CriticalSection> g(core_->lock);
+    MOSAIC_ASSERT(core_->depth == 0, "a notifier destroyed by a callback of its own delivery");
     core_->alive = false;
     // A delivery under way still walks the list; it empties it when it ends.
     if (core_->depth == 0) core_->list.clear();

@@ -117,21 +117,6 @@ TEST_F(GlobOperations, ReparentingNeedsConsentAndKeepsThePlace) {
     EXPECT_FALSE(b->reparentTo(child)) << "never into its own subtree";
 }
 
-TEST_F(GlobOperations, AGlobAddedToItselfStopsADebugBuildAndIsRefusedInRelease) {
-    Owned<StandardPanel> a(makeRootPanel(100, 100));
-    Block::InitArgs args(10, 10, Colour(1, 0, 0));
-    Block* child = a->createWidget<Block>(args, Glob::BottomLeft(5, 6));
-    EXPECT_MOSAIC_ASSERT(a->addChild(a.get(), Glob::BottomLeft(0, 0)), "a glob added to itself");
-    EXPECT_MOSAIC_ASSERT(child->addChild(a.get(), Glob::BottomLeft(0, 0)), "a glob added to itself");
-    child->setReparentable(true);
-    a->setReparentable(true);
-    EXPECT_MOSAIC_ASSERT(a->reparentTo(child), "a glob moved into itself");
-    EXPECT_EQ(a->parent(), nullptr);
-    EXPECT_EQ(child->parent(), a.get());
-    EXPECT_EQ(a->numChildren(), 1u);
-    EXPECT_EQ(child->numChildren(), 0u);
-}
-
 TEST_F(GlobOperations, PersistenceRoundTripsPlaceAndSizeAndIgnoresGarbage) {
     Owned<StandardPanel> p(makeRootPanel(120, 90, {40, 50}));
     configb saved;
