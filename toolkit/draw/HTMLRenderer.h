@@ -14,8 +14,8 @@ class Canvas;
 
 /// The small mark-up of labels and log rows: `<p>` and `<div>` paragraphs (with an
 /// align attribute), `<br>`, `<b>`/`<strong>`, `<i>`/`<em>`, `<u>`, `<a href>`, `<span>`,
-/// `<font color size face>`, `<h1>` to `<h6>`, and the entities `&lt;`, `&gt;`,
-/// `&amp;`, `&quot;`, `&apos;`, `&nbsp;` and `&#n;`. Anything else is dropped,
+/// `<font color size face>`, `<h1>` to `<h6>`, the entities named lt, gt, amp,
+/// quot, apos and nbsp, and numbered ones (`&#n;`). Anything else is dropped,
 /// keeping the text inside.
 class HTMLRenderer {
 public:
