@@ -1,15 +1,30 @@
-# Runs Doxygen, then fails when a public class or struct has no summary or when
-# Doxygen warned of anything but an undocumented member (members may go without).
-# Doxygen itself passes over classes with no members, so the classes are checked
-# in its XML output, where each has a file of its own.
-# cmake -DDOXYGEN=... -DDOXYFILE=... -DOUTPUT=<Doxygen's output folder> -P RunDoxygen.cmake
+# Makes the API reference and checks it. It fails when a public class or struct
+# has no summary, or when Doxygen warned of anything but an undocumented member
+# (members may go without).
+# cmake -DDOXYGEN=... -DDOXYFILE=... -DSOURCE=<the tree> -DOUTPUT=<Doxygen's output folder> -P RunDoxygen.cmake
+set(headers "${OUTPUT}/headers")
 set(warnings "${OUTPUT}/warnings.log")
-file(REMOVE_RECURSE "${OUTPUT}/xml" "${warnings}")
+file(REMOVE_RECURSE "${headers}" "${OUTPUT}/xml" "${warnings}")
+
+# Doxygen reads the headers from copies in which an indented `//` comment, which is
+# about a member (or a nested type) of the class around it, is `///` documentation.
+# A comment at the left margin stays plain, so a class is documented only by its
+# own `///` summary. Replacing twice reaches comment lines that follow an empty one.
+file(GLOB_RECURSE names RELATIVE "${SOURCE}" "${SOURCE}/toolkit/*.h" "${SOURCE}/mosaic/*.h")
+foreach(name IN LISTS names)
+  file(READ "${SOURCE}/${name}" text)
+  string(REGEX REPLACE "\n([ \t]+)//( |\n)" "\n\\1///\\2" text "${text}")
+  string(REGEX REPLACE "\n([ \t]+)//( |\n)" "\n\\1///\\2" text "${text}")
+  file(WRITE "${headers}/${name}" "${text}")
+endforeach()
+
 execute_process(COMMAND "${DOXYGEN}" "${DOXYFILE}" RESULT_VARIABLE status)
 if(NOT status EQUAL 0)
   message(FATAL_ERROR "doxygen failed (${status})")
 endif()
 
+# Doxygen warns of no class without members, so every class is looked at in the
+# XML output, where each has a file of its own; private nested types need nothing.
 set(count 0)
 file(GLOB compounds "${OUTPUT}/xml/class*.xml" "${OUTPUT}/xml/struct*.xml" "${OUTPUT}/xml/union*.xml")
 foreach(xml IN LISTS compounds)
@@ -31,6 +46,7 @@ if(EXISTS "${warnings}")
   file(STRINGS "${warnings}" lines)
   foreach(line IN LISTS lines)
     if(NOT line MATCHES "warning: (Member|Compound) .* is not documented\\.$")
+      string(REPLACE "${headers}/" "" line "${line}")
       message(NOTICE "${line}")
       math(EXPR count "${count} + 1")
     endif()
