@@ -10,13 +10,14 @@
 
 #include <vector>
 
-// A tutorial document: phases that say where a pointer goes on the screen, what
-// message is shown and which user action ends the phase, and the layout of the
-// interface it was made on. It reads and writes itself as one JSON file. Reading
-// and writing are deliberately not mirror images (see the parts' read and write).
-// The player that runs a tutorial belongs to the application.
+/// A tutorial document: phases that say where a pointer goes on the screen, what
+/// message is shown and which user action ends the phase, and the layout of the
+/// interface it was made on. It reads and writes itself as one JSON file. Reading
+/// and writing are deliberately not mirror images (see the parts' read and write).
+/// The player that runs a tutorial belongs to the application.
 class Tutorial : public JSON::iPersistable {
 public:
+    /// A part of the interface the tutorial was made on: its kind, place and size.
     struct UIComponent {
         LightweightString<char> type;
         XY<double> position;
@@ -24,9 +25,9 @@ public:
         XY<double> size;
     };
 
-    // Where the pointer goes: a position, or a named component. Coordinates win
-    // over a target when written; a target wins when read. A coordinate of
-    // Glob::kUnset is none.
+    /// Where the pointer goes: a position, or a named component. Coordinates win
+    /// over a target when written; a target wins when read. A coordinate of
+    /// Glob::kUnset is none.
     class Pointer : public JSON::iPersistable {
     public:
         double x = Glob::kUnset, y = Glob::kUnset;
@@ -66,6 +67,8 @@ public:
         int read(const Zn::Ptr<JSON::Element>& e) override;
     };
 
+    /// One step of a tutorial: where the pointer goes, the message shown, the action
+    /// that ends the step, and the pause that goes with it.
     class Phase : public JSON::iPersistable {
     public:
         Pointer pointer;

@@ -12,12 +12,12 @@ inline bool live(const Glob* g) { return is_good_glob_ptr(g); }
 inline bool live(const EventHandler*) { return true; }
 } // namespace GlobHandleCheck
 
-// A checked weak reference to a widget (or to any other event handler): it
-// remembers the widget's stamp, so a widget that died, or another object that now
-// lives at its address, is never touched. An owning handle deletes its widget
-// when it goes.
-//
-// It needs only a declaration of T, so a class may hold a handle to its own kind.
+/// A checked weak reference to a widget (or to any other event handler): it
+/// remembers the widget's stamp, so a widget that died, or another object that now
+/// lives at its address, is never touched. An owning handle deletes its widget
+/// when it goes.
+///
+/// It needs only a declaration of T, so a class may hold a handle to its own kind.
 template <class T>
 class GlobHandle {
 public:

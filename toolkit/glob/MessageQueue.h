@@ -6,11 +6,12 @@
 #include <deque>
 #include <mutex>
 
-// Messages on their way to the user-interface thread. Any thread may post; only
-// the user-interface thread takes. Each message holds its target by a handle, so a
-// target that dies before delivery simply misses it.
+/// Messages on their way to the user-interface thread. Any thread may post; only
+/// the user-interface thread takes. Each message holds its target by a handle, so a
+/// target that dies before delivery simply misses it.
 class MessageQueue {
 public:
+    /// A message and its target, held by a handle taken when it was posted.
     struct Item {
         Event event;
         GlobHandle<EventHandler> target;

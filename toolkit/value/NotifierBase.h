@@ -7,11 +7,11 @@
 
 #include <memory>
 
-// The registrations of a notifier, in order, under its lock. A registration lasts
-// as long as the guard it returns is held; a guard that outlives the notifier is
-// harmless. Delivery may nest on one thread: a callback may register, release, or
-// issue again on the same notifier, but not destroy it (a debug build stops there;
-// a release build ends the delivery at that callback, safely).
+/// The registrations of a notifier, in order, under its lock. A registration lasts
+/// as long as the guard it returns is held; a guard that outlives the notifier is
+/// harmless. Delivery may nest on one thread: a callback may register, release, or
+/// issue again on the same notifier, but not destroy it (a debug build stops there;
+/// a release build ends the delivery at that callback, safely).
 class NotifierBase {
     struct Core;
 
@@ -29,8 +29,8 @@ public:
     CriticalSection& criticalSection() const { return core_->lock; }
 
 protected:
-    // The notifier's lock for a scope; it stays good if a callback in the scope
-    // destroys the notifier.
+    /// The notifier's lock for a scope; it stays good if a callback in the scope
+    /// destroys the notifier.
     class ScopedLock {
     public:
         explicit ScopedLock(const NotifierBase& n) : core_(n.core_) { core_->lock.lock(); }
