@@ -202,6 +202,7 @@ void UIBuilder::recordRow(const Zn::Ptr<iParam>& param, Glob* row) {
     params_.push_back(param);
     paramsById_.emplace(param->getID(), param);
     widgets_.emplace(param->getID(), row);
+    if (is_good_glob_ptr(row) && row->name().empty()) row->setName(param->getID());
 }
 
 void UIBuilder::addPostCondition(const Zn::Ptr<iPostCondition>& condition) {

@@ -6,7 +6,7 @@
 #include "glob/UifStd.h"
 #include "params/SliderParamHost.h"
 #include "params/UIBuilderExample.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>

@@ -2,7 +2,7 @@
 // visible row of the panel painted, whatever kinds of row it holds.
 #include "glob/UifStd.h"
 #include "image/HostImage.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>

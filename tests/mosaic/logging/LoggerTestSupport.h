@@ -12,7 +12,7 @@
 #include "platform/ResourceStrings.h"
 #include "tasks/HyperLink.h"
 #include "tasks/TaskLog.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include "../../toolkit/platform/TempFolder.h"
 

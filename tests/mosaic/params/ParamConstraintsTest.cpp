@@ -6,7 +6,7 @@
 #include "params/MaxValueConstraint.h"
 #include "params/MinValueConstraint.h"
 #include "params/VisibilityConstraint.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include <gtest/gtest.h>
 

@@ -7,7 +7,7 @@
 #include "glob/StandardPanel.h"
 #include "params/SliderParamHost.h"
 #include "params/TitledGlob.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include <gtest/gtest.h>
 

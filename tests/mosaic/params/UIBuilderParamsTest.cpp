@@ -5,7 +5,7 @@
 #include "params/ActiveConstraint.h"
 #include "params/MaxValueConstraint.h"
 #include "params/MinValueConstraint.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include <gtest/gtest.h>
 

@@ -15,7 +15,7 @@
 #include "params/SliderParamHost.h"
 #include "params/TitledGlob.h"
 #include "params/UIBuilderParams.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include <gtest/gtest.h>
 
@@ -89,7 +89,7 @@ TEST_F(UIBuilderList, EachKnownParameterGetsItsKindOfRowOnACloneInRowOrder) {
     // The caller's parameters keep their values: the rows work on clones.
     auto* loop = dynamic_cast<Checkbox*>(set->getWidget("loop"));
     EXPECT_TRUE(loop->getState());
-    TestKit::click(TestKit::centreOf(loop));
+    TestKit::click(loop);
     EXPECT_EQ(set->params()[1]->getValueAsString(), L"false");
     EXPECT_EQ(params[1]->getValueAsString(), L"true");
 
@@ -187,7 +187,7 @@ TEST_F(UIBuilderList, DependenciesOfTheCallersParametersActOnTheClones) {
     std::vector<std::string> heard;
     set->addListener(listenerInto(heard));
 
-    TestKit::click(TestKit::centreOf(set->getWidget("advanced")));
+    TestKit::click(set->getWidget("advanced"));
     EXPECT_TRUE(set->getWidget("detail")->isActive());
     EXPECT_TRUE(set->getWidget("high")->isVisible());
     EXPECT_EQ(heard, (std::vector<std::string>{"advanced"}));
@@ -214,7 +214,7 @@ TEST_F(UIBuilderList, AResetActionChangesEverythingAndIsToldOnce) {
     set->params()[2]->setValueFromString(L"other");
     std::vector<std::string> heard;
     set->addListener(listenerInto(heard));
-    TestKit::click(TestKit::centreOf(reset->control()));
+    TestKit::click(reset->control());
     EXPECT_EQ(heard, (std::vector<std::string>{"+payload"})) << "one call, with the action's message";
     EXPECT_EQ(set->params()[0]->getValueAsString(), L"false");
     EXPECT_FALSE(dynamic_cast<Checkbox*>(set->getWidget("loop"))->getState()) << "the widgets follow";

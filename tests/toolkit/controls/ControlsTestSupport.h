@@ -4,7 +4,7 @@
 #include "core/NotifyMsg.h"
 #include "glob/GlobManager.h"
 #include "glob/StandardPanel.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include <functional>
 #include <string>

@@ -3,7 +3,7 @@
 #include "glob/GlobManager.h"
 #include "glob/StandardPanel.h"
 #include "glob/UifStd.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include <string>
 #include <vector>

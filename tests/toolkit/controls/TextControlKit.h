@@ -8,7 +8,7 @@
 #include "glob/StandardPanel.h"
 #include "glob/UifStd.h"
 #include "platform/OS.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include <cstdint>
 #include <cstdlib>

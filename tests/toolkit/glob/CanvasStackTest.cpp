@@ -4,7 +4,7 @@
 #include "glob/GlobManager.h"
 #include "glob/InputDispatcher.h"
 #include "glob/StandardPanel.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include <gtest/gtest.h>
 

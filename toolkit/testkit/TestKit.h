@@ -2,6 +2,8 @@
 
 #include "core/Event.h"
 #include "glob/Glob.h"
+#include "glob/GlobManager.h"
+#include "testkit/ReferencePicture.h"
 
 #include <gtest/gtest.h>
 
@@ -10,15 +12,39 @@
 
 class iHostImage;
 
-// Drives the toolkit headless in tests: pumps the event loop, injects input at
+// Drives the toolkit headless in tests, an application's as well as the library's
+// own: pumps the event loop, finds widgets by name, injects input at widgets or at
 // screen coordinates, reads painted pixels, and saves the screen as a PNG when a
-// pixel assertion fails (into $MOSAIC_TEST_OUTPUT, or the working folder).
+// pixel assertion fails (into $MOSAIC_TEST_OUTPUT, or the working folder). Link
+// Mosaic::testkit, and Mosaic::testkit_main for a main that keeps the tests out of
+// the user's own settings (see TestHome). Everything here runs on the thread that
+// runs the tests, which is the user-interface thread.
 namespace TestKit {
 
 // Delivers messages, deletions and redraws until nothing is left, then composes the screen.
 void pump();
 // Deletes every top-level glob and clears pending work, so that tests do not see each other.
 void reset();
+
+// The widget on the screen with this name (Glob::setName), or failing that this
+// idstring, searched from the top panel down; null when there is none or it is no T.
+template <class T = Glob>
+T* find(const char* name) {
+    return dynamic_cast<T*>(GlobManager::instance().find(LightweightString<char>(name)));
+}
+
+// Input at a widget: a widget given by name is looked up with find(). A name that
+// finds nothing, or a dead widget, fails the running test without stopping it and
+// sends nothing; the result says whether the input was sent.
+bool click(const Glob* g, Event::Button button = Event::kLeft, unsigned modifiers = 0);
+bool click(const char* name, Event::Button button = Event::kLeft, unsigned modifiers = 0);
+// Gives the widget the keyboard focus as the Tab key would (a text box then
+// selects its text, which the typing replaces) and types the text.
+bool typeInto(Glob* g, const LightweightString<wchar_t>& text);
+bool typeInto(const char* name, const LightweightString<wchar_t>& text);
+// Presses the mouse on the widget's centre, moves it by `by` and lets go there.
+bool drag(const Glob* g, XY<int> by, int steps = 4);
+bool drag(const char* name, XY<int> by, int steps = 4);
 
 void mouseMove(XY<int> screen, unsigned modifiers = 0);
 void mouseDown(XY<int> screen, Event::Button button = Event::kLeft, unsigned modifiers = 0);

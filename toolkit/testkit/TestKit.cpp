@@ -43,7 +43,56 @@ std::string testName() {
     return info ? std::string(info->test_suite_name()) + "." + info->name() : "pixel";
 }
 
+// The widget a name-given input goes to; a failure of the running test when there is none.
+Glob* target(const char* name) {
+    Glob* g = find(name);
+    if (!g) ADD_FAILURE() << "no widget named \"" << (name ? name : "") << "\" on the screen";
+    return g;
+}
+
+bool alive(const Glob* g) {
+    if (is_good_glob_ptr(g)) return true;
+    ADD_FAILURE() << "input for a widget that is not there";
+    return false;
+}
+
 } // namespace
+
+bool click(const Glob* g, Event::Button b, unsigned m) {
+    if (!alive(g)) return false;
+    click(centreOf(g), b, m);
+    return true;
+}
+
+bool click(const char* name, Event::Button b, unsigned m) {
+    const Glob* g = target(name);
+    return g && click(g, b, m);
+}
+
+bool typeInto(Glob* g, const LightweightString<wchar_t>& text) {
+    if (!alive(g)) return false;
+    g->claimKbdFocus();
+    pump();
+    typeText(text);
+    return true;
+}
+
+bool typeInto(const char* name, const LightweightString<wchar_t>& text) {
+    Glob* g = target(name);
+    return g && typeInto(g, text);
+}
+
+bool drag(const Glob* g, XY<int> by, int steps) {
+    if (!alive(g)) return false;
+    const XY<int> from = centreOf(g);
+    drag(from, from + by, steps);
+    return true;
+}
+
+bool drag(const char* name, XY<int> by, int steps) {
+    const Glob* g = target(name);
+    return g && drag(g, by, steps);
+}
 
 void pump() { gm().runUntilIdle(); }
 
