@@ -87,7 +87,8 @@ TEST_F(UIBuilderList, EachKnownParameterGetsItsKindOfRowOnACloneInRowOrder) {
     EXPECT_STREQ(set->getWidget("reset")->idstring(), "TitledButton");
 
     // The caller's parameters keep their values: the rows work on clones.
-    auto* loop = dynamic_cast<Checkbox*>(set->getWidget("loop"));
+    auto* loop = TestKit::find<Checkbox>("loop");
+    ASSERT_EQ(loop, set->getWidget("loop")) << "a row is named by its parameter's id";
     EXPECT_TRUE(loop->getState());
     TestKit::click(loop);
     EXPECT_EQ(set->params()[1]->getValueAsString(), L"false");
@@ -187,7 +188,7 @@ TEST_F(UIBuilderList, DependenciesOfTheCallersParametersActOnTheClones) {
     std::vector<std::string> heard;
     set->addListener(listenerInto(heard));
 
-    TestKit::click(set->getWidget("advanced"));
+    TestKit::click("advanced");
     EXPECT_TRUE(set->getWidget("detail")->isActive());
     EXPECT_TRUE(set->getWidget("high")->isVisible());
     EXPECT_EQ(heard, (std::vector<std::string>{"advanced"}));
