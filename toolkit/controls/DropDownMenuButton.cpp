@@ -2,8 +2,8 @@
 
 #include "Menu.h"
 #include "draw/CanvasRenderer.h"
+#include "draw/UifStd.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 #include "glob/fireCallback.h"
 
 #include <algorithm>
