@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Builds Mosaic and runs every test: a plain build with warnings as errors, then
-# the same tests under AddressSanitizer with UndefinedBehaviorSanitizer, then under
-# ThreadSanitizer, with each fuzz target run for a minute first. Set MOSAIC_SKIP_SANITIZERS=1
+# Builds Mosaic and runs every test: a plain build with warnings as errors and
+# clang-tidy over its sources, then the same tests under AddressSanitizer with
+# UndefinedBehaviorSanitizer, then under ThreadSanitizer, with each fuzz target run for a minute first. Set MOSAIC_SKIP_SANITIZERS=1
 # to run the plain build only.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -25,6 +25,9 @@ bash scripts/check-format.sh
 
 echo "== plain build =="
 run_suite build -DCMAKE_BUILD_TYPE=RelWithDebInfo
+
+echo "== clang-tidy =="
+bash scripts/run-tidy.sh build
 
 if [ "${MOSAIC_SKIP_SANITIZERS:-0}" != 1 ]; then
   echo "== fuzz targets, 60 seconds each =="

@@ -19,7 +19,8 @@ public:
 
 protected:
     TextParam(const TextParam& other)
-        : Zn::InternalRefCount(), Param<LightweightString<wchar_t>>(other), hint(other.hint), obfuscated(other.obfuscated), advance(other.advance) {}
+        : Zn::InternalRefCount(other), Param<LightweightString<wchar_t>>(other), hint(other.hint), obfuscated(other.obfuscated),
+          advance(other.advance) {}
 };
 
 } // namespace GenericParam
