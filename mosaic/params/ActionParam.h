@@ -32,7 +32,7 @@ public:
 
 protected:
     ActionParam(const ActionParam& other)
-        : Zn::InternalRefCount(other), Param<unsigned int>(other), callback(other.callback), context(other.context), title(other.title) {}
+        : Zn::InternalRefCount(), Param<unsigned int>(other), callback(other.callback), context(other.context), title(other.title) {}
 };
 
 } // namespace GenericParam

@@ -12,7 +12,7 @@ public:
     Zn::Ptr<iParam> clone() const override { return Zn::Ptr<iParam>(new BoolParam(*this)); }
 
 protected:
-    BoolParam(const BoolParam& other) : Zn::InternalRefCount(other), Param<bool>(other) {}
+    BoolParam(const BoolParam& other) : Zn::InternalRefCount(), Param<bool>(other) {}
 };
 
 } // namespace GenericParam

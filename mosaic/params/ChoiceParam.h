@@ -29,7 +29,7 @@ public:
     }
 
 protected:
-    ChoiceParam(const ChoiceParam& other) : Zn::InternalRefCount(other), Param<unsigned int>(other), choices_(other.choices_) {}
+    ChoiceParam(const ChoiceParam& other) : Zn::InternalRefCount(), Param<unsigned int>(other), choices_(other.choices_) {}
 
 private:
     std::vector<Choice> choices_;

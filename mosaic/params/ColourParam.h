@@ -13,7 +13,7 @@ public:
     Zn::Ptr<iParam> clone() const override { return Zn::Ptr<iParam>(new ColourParam(*this)); }
 
 protected:
-    ColourParam(const ColourParam& other) : Zn::InternalRefCount(other), Param<NormalisedRGB>(other) {}
+    ColourParam(const ColourParam& other) : Zn::InternalRefCount(), Param<NormalisedRGB>(other) {}
 };
 
 } // namespace GenericParam

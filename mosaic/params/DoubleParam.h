@@ -14,7 +14,7 @@ public:
     Zn::Ptr<iParam> clone() const override { return Zn::Ptr<iParam>(new DoubleParam(*this)); }
 
 protected:
-    DoubleParam(const DoubleParam& other) : Zn::InternalRefCount(other), Param<double>(other) {}
+    DoubleParam(const DoubleParam& other) : Zn::InternalRefCount(), Param<double>(other) {}
 };
 
 } // namespace GenericParam

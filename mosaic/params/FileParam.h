@@ -18,7 +18,7 @@ public:
     std::vector<LightweightString<wchar_t>> filters;
 
 protected:
-    FileParam(const FileParam& other) : Zn::InternalRefCount(other), Param<LightweightString<wchar_t>>(other), filters(other.filters) {}
+    FileParam(const FileParam& other) : Zn::InternalRefCount(), Param<LightweightString<wchar_t>>(other), filters(other.filters) {}
 };
 
 } // namespace GenericParam

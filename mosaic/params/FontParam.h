@@ -13,7 +13,7 @@ public:
     Zn::Ptr<iParam> clone() const override { return Zn::Ptr<iParam>(new FontParam(*this)); }
 
 protected:
-    FontParam(const FontParam& other) : Zn::InternalRefCount(other), Param<LightweightString<wchar_t>>(other) {}
+    FontParam(const FontParam& other) : Zn::InternalRefCount(), Param<LightweightString<wchar_t>>(other) {}
 };
 
 } // namespace GenericParam

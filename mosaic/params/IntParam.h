@@ -13,7 +13,7 @@ public:
     Zn::Ptr<iParam> clone() const override { return Zn::Ptr<iParam>(new IntParam(*this)); }
 
 protected:
-    IntParam(const IntParam& other) : Zn::InternalRefCount(other), Param<int>(other) {}
+    IntParam(const IntParam& other) : Zn::InternalRefCount(), Param<int>(other) {}
 };
 
 } // namespace GenericParam

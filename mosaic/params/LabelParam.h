@@ -13,7 +13,7 @@ public:
     Zn::Ptr<iParam> clone() const override { return Zn::Ptr<iParam>(new LabelParam(*this)); }
 
 protected:
-    LabelParam(const LabelParam& other) : Zn::InternalRefCount(other), Param<LightweightString<wchar_t>>(other) {}
+    LabelParam(const LabelParam& other) : Zn::InternalRefCount(), Param<LightweightString<wchar_t>>(other) {}
 };
 
 } // namespace GenericParam

@@ -74,7 +74,7 @@ public:
 protected:
     // For clone(): the same settings, the value and a server of its own.
     Param(const Param& other)
-        : Zn::InternalRefCount(other), ValManagerBase<T>(), ParamBase(other), server_(other.getValue()), defaultValue_(other.defaultValue_),
+        : Zn::InternalRefCount(), ValManagerBase<T>(), ParamBase(other), server_(other.getValue()), defaultValue_(other.defaultValue_),
           minValue_(other.minValue_), maxValue_(other.maxValue_), hasRange_(other.hasRange_) {
         init();
     }

@@ -19,7 +19,7 @@ public:
 
 protected:
     TextParam(const TextParam& other)
-        : Zn::InternalRefCount(other), Param<LightweightString<wchar_t>>(other), hint(other.hint), obfuscated(other.obfuscated),
+        : Zn::InternalRefCount(), Param<LightweightString<wchar_t>>(other), hint(other.hint), obfuscated(other.obfuscated),
           advance(other.advance) {}
 };
 

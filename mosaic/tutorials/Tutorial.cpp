@@ -139,7 +139,7 @@ int Tutorial::Phase::read(const Zn::Ptr<JSON::Element>& e) {
 Tutorial::Tutorial(const LightweightString<wchar_t>& path) { load(path); }
 
 Tutorial::Tutorial(const Tutorial& other)
-    : Zn::InternalRefCount(other), JSON::iPersistable(), name_(other.name_), category_(other.category_), path_(other.path_),
+    : Zn::InternalRefCount(), JSON::iPersistable(), name_(other.name_), category_(other.category_), path_(other.path_),
       components_(other.components_) {
     for (const Zn::Ptr<Phase>& p : other.phases_) phases_.push_back(Zn::Ptr<Phase>(new Phase(*p)));
 }
