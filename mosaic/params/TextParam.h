@@ -19,8 +19,7 @@ public:
 
 protected:
     TextParam(const TextParam& other)
-        : Zn::InternalRefCount(), Param<LightweightString<wchar_t>>(other), hint(other.hint), obfuscated(other.obfuscated),
-          advance(other.advance) {}
+        : Zn::InternalRefCount(), Param<LightweightString<wchar_t>>(other), hint(other.hint), obfuscated(other.obfuscated), advance(other.advance) {}
 };
 
 } // namespace GenericParam
