@@ -2,7 +2,7 @@
 
 #include "controls/PushButton.h"
 #include "controls/TextBox.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "glob/StandardPanel.h"
+#include "controls/StandardPanel.h"
 
 class TextBox;
 

@@ -3,9 +3,9 @@
 #include "testkit/TestKit.h"
 #include "controls/Checkbox.h"
 #include "controls/Slider.h"
+#include "controls/StandardPanel.h"
 #include "controls/TextBox.h"
 #include "core/Utf8.h"
-#include "glob/StandardPanel.h"
 #include "image/HostImage.h"
 #include "testkit/TestHome.h"
 

@@ -1,4 +1,4 @@
-#include "glob/StandardPanel.h"
+#include "controls/StandardPanel.h"
 #include "testkit/TestKit.h"
 #include "value/UIThreadCallback.h"
 #include "value/ValServer.h"
