@@ -1,8 +1,8 @@
 #pragma once
 
 #include "ProgInd.h"
-#include "core/UIString.h"
 #include "glob/GlobHandle.h"
+#include "platform/UIString.h"
 
 #include <cstdint>
 

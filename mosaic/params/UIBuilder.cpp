@@ -10,8 +10,8 @@
 #include "controls/VerticalScrollingBase.h"
 #include "core/MethodCallback.h"
 #include "core/Utf8.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/UifStd.h"
 #include "platform/Configuration.h"
 
 #include "TitledGlob.h"
@@ -202,6 +202,7 @@ void UIBuilder::recordRow(const Zn::Ptr<iParam>& param, Glob* row) {
     params_.push_back(param);
     paramsById_.emplace(param->getID(), param);
     widgets_.emplace(param->getID(), row);
+    if (is_good_glob_ptr(row) && row->name().empty()) row->setName(param->getID());
 }
 
 void UIBuilder::addPostCondition(const Zn::Ptr<iPostCondition>& condition) {

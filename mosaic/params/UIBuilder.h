@@ -115,7 +115,8 @@ public:
 
 protected:
     // Records a finished row: its parameter joins the list in row order, and the row
-    // can be found by the parameter's id. A second row for an id leaves the first.
+    // can be found by the parameter's id; a row without a name takes the id as its
+    // name, for GlobManager::find. A second row for an id leaves the first.
     void recordRow(const Zn::Ptr<GenericParam::iParam>& param, Glob* row);
     void addPostCondition(const Zn::Ptr<iPostCondition>& condition);
     // Hands the parameters, rows and post-conditions to the set that outlives the builder.

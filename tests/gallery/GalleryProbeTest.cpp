@@ -52,7 +52,7 @@ protected:
 
 TEST_F(Probe, NamedWidgetsAndRootsAreListedInTopDownWindowCoordinates) {
     ASSERT_TRUE(build("controls"));
-    Checkbox* loop = named<Checkbox>("loop");
+    Checkbox* loop = TestKit::find<Checkbox>("loop");
     ASSERT_TRUE(loop);
     const int h = GlobManager::instance().screen().height();
     XY<int> at = loop->screenPos();
@@ -78,9 +78,9 @@ TEST_F(Probe, ReportFollowsClicksAndTypingAndKeepsTheValuesOfAClosedPanel) {
     EXPECT_TRUE(reports("value clip-label TextLabel No name yet"));
     EXPECT_TRUE(reports("focus -"));
 
-    TestKit::click(TestKit::centreOf(named("loop")));
+    TestKit::click(TestKit::find("loop"));
     TestKit::pump();
-    TestKit::click(TestKit::centreOf(named("clip-name")));
+    TestKit::click(TestKit::find("clip-name"));
     TestKit::typeText(L"h\u00e9llo 42");
     TestKit::pump();
     ASSERT_TRUE(probe.capture());
@@ -104,12 +104,12 @@ TEST_F(Probe, ReportFollowsClicksAndTypingAndKeepsTheValuesOfAClosedPanel) {
 
 TEST_F(Probe, ValuesAreOneLineAndGlobsWithoutValueGiveNone) {
     ASSERT_TRUE(build("controls"));
-    auto* box = named<TextBox>("clip-name");
+    auto* box = TestKit::find<TextBox>("clip-name");
     ASSERT_TRUE(box);
     box->setString(L"two\nlines");
     EXPECT_EQ(GalleryProbe::valueOf(box), std::optional<std::string>("two\\nlines"));
-    EXPECT_FALSE(GalleryProbe::valueOf(named("picture"))) << "a picture holds no value";
-    EXPECT_FALSE(GalleryProbe::valueOf(named("magnify"))) << "a button that does not latch holds no value";
+    EXPECT_FALSE(GalleryProbe::valueOf(TestKit::find("picture"))) << "a picture holds no value";
+    EXPECT_FALSE(GalleryProbe::valueOf(TestKit::find("magnify"))) << "a button that does not latch holds no value";
     EXPECT_FALSE(GalleryProbe::valueOf(nullptr));
     Slider* frames = nullptr;
     for (Glob* g : GlobManager::instance().roots()[0]->getChildren())

@@ -1,7 +1,7 @@
 // mosaic-gallery run headless on a command it opens by name.
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "image/HostImage.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include <gtest/gtest.h>
 

@@ -40,7 +40,7 @@ TEST_F(Scenes, EverySceneBuildsAPaintedPanelAndClosesCleanly) {
 
 TEST_F(Scenes, ThePictureOfTheControlsSceneShowsColourBarsTheRightWayUp) {
     ASSERT_TRUE(build("controls"));
-    auto* picture = named<ImageView>("picture");
+    auto* picture = TestKit::find<ImageView>("picture");
     ASSERT_TRUE(picture);
     BoxInt area = picture->imageArea();
     ASSERT_EQ(area.width(), 160);
@@ -54,8 +54,8 @@ TEST_F(Scenes, ThePictureOfTheControlsSceneShowsColourBarsTheRightWayUp) {
 
 TEST_F(Scenes, TheControlsSceneIconButtonsPaintTheirIconsAndTheOverlayLatches) {
     ASSERT_TRUE(build("controls"));
-    auto* magnify = named<ImageButton>("magnify");
-    auto* overlay = named<ImageButton>("overlay");
+    auto* magnify = TestKit::find<ImageButton>("magnify");
+    auto* overlay = TestKit::find<ImageButton>("overlay");
     ASSERT_TRUE(magnify && overlay);
     EXPECT_TRUE(magnify->hasImage() && overlay->hasImage()) << "the icons are found among the resources";
     const std::uint32_t face = TestKit::globPixel(magnify, 1, magnify->height() / 2);
@@ -66,7 +66,7 @@ TEST_F(Scenes, TheControlsSceneIconButtonsPaintTheirIconsAndTheOverlayLatches) {
 
     const std::uint32_t latched = TestKit::globPixel(overlay, 2, overlay->height() / 2);
     ASSERT_TRUE(overlay->isLatched());
-    TestKit::click(TestKit::centreOf(overlay));
+    TestKit::click(overlay);
     TestKit::mouseMove({2, 2});
     TestKit::pump();
     EXPECT_FALSE(overlay->isLatched());
@@ -84,7 +84,7 @@ TEST_F(Scenes, TheGradeSceneHasFortyControlsAndEachSliderFollowsItsNumberBox) {
     }
     ASSERT_TRUE(slider && box);
     EXPECT_EQ(slider->getPosition(), 0.0) << "lift red starts at nought";
-    TestKit::click(TestKit::centreOf(box));
+    TestKit::click(box);
     box->setSelection(0, box->getString().size());
     TestKit::typeText(L"-40");
     TestKit::pressKey(Keys::Return);

@@ -4,7 +4,7 @@
 
 #include "glob/Glob.h"
 #include "glob/GlobManager.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include <gtest/gtest.h>
 
@@ -23,16 +23,5 @@ protected:
                 return true;
             }
         return false;
-    }
-
-    template <class T = Glob>
-    static T* named(const char* name) {
-        Glob* found = nullptr;
-        for (Glob* root : GlobManager::instance().roots())
-            root->visitSubtree([&](Glob* g) {
-                if (g->name().str() == name) found = g;
-                return !found;
-            });
-        return dynamic_cast<T*>(found);
     }
 };

@@ -2,11 +2,11 @@
 
 #include "draw/CanvasRenderer.h"
 #include "draw/Screen.h"
+#include "draw/UifStd.h"
 #include "draw/WordWrappingTextRenderer.h"
 #include "glob/GlobHandle.h"
 #include "glob/GlobManager.h"
 #include "glob/InputDispatcher.h"
-#include "glob/UifStd.h"
 #include "platform/Clock.h"
 
 #include <algorithm>

@@ -6,8 +6,7 @@ list(APPEND GLOBKIT_SOURCES
   core/IdStamp.cpp
   core/KeyCodes.cpp
   core/Palette.cpp
-  core/UIString.cpp
+  core/splitIf.cpp
   core/Utf8.cpp
   core/WStringFromAscii.cpp
-  core/splitIf.cpp
 )

@@ -2,11 +2,11 @@
 
 #include "Drawable.h"
 #include "EventHandler.h"
+#include "GlobCreationInfo.h"
 #include "GlobHandle.h"
 #include "MouseCursor.h"
 #include "WidgetDetails.h"
-#include "core/GlobCreationInfo.h"
-#include "core/UIString.h"
+#include "platform/UIString.h"
 #include "platform/configb.h"
 
 #include <functional>

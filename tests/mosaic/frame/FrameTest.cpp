@@ -4,7 +4,7 @@
 #include "draw/Canvas.h"
 #include "draw/CanvasRenderer.h"
 #include "glob/GlobManager.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 namespace {
 

@@ -4,15 +4,15 @@
 
 #include "controls/TableWidget.h"
 #include "core/Utf8.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/UifStd.h"
 #include "platform/Clock.h"
 #include "platform/OS.h"
 #include "platform/Paths.h"
 #include "platform/ResourceStrings.h"
 #include "tasks/HyperLink.h"
 #include "tasks/TaskLog.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include "../../toolkit/platform/TempFolder.h"
 

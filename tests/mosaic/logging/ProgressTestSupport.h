@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Clock.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include <gtest/gtest.h>
 

@@ -44,7 +44,7 @@ TEST_F(LoggerFixture, ShowLogOpensASavableLoggerThatWritesTheWholeLogAsHTML) {
         if (auto* b = dynamic_cast<PushButton*>(c)) save = b;
     ASSERT_NE(save, nullptr);
     EXPECT_EQ(save->getLabel().getString(), ellipsisResourceStrW(307));
-    TestKit::click(TestKit::centreOf(save));
+    TestKit::click(save);
     FileBrowser* chooser = panel->chooser();
     ASSERT_NE(chooser, nullptr) << "the save button asks for a folder";
     panel->chooseFolder();

@@ -4,9 +4,9 @@
 #include "ParamTestSupport.h"
 #include "controls/NumericTextBox.h"
 #include "controls/Slider.h"
+#include "controls/StandardPanel.h"
 #include "glob/GlobManager.h"
-#include "glob/StandardPanel.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 #include "value/ValAdaptor.h"
 
 #include <gtest/gtest.h>
@@ -107,7 +107,7 @@ TEST_F(ControlsRoad, ADraggedSliderStoresTheCorrectedWholeNumberAndBothControlsS
 }
 
 TEST_F(ControlsRoad, ANumberTypedInTheBoxMovesTheSlider) {
-    TestKit::click(TestKit::centreOf(box));
+    TestKit::click(box);
     TestKit::pressKey('a', Modifiers::Control);
     TestKit::typeText(L"7");
     TestKit::pressKey(Keys::Return);

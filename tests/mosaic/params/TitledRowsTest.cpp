@@ -2,12 +2,12 @@
 #include "controls/Button.h"
 #include "controls/NumericTextBox.h"
 #include "controls/Slider.h"
+#include "controls/StandardPanel.h"
 #include "controls/VerticalScrollingBase.h"
 #include "glob/GlobManager.h"
-#include "glob/StandardPanel.h"
 #include "params/SliderParamHost.h"
 #include "params/TitledGlob.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include <gtest/gtest.h>
 

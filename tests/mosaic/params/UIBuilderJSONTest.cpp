@@ -9,13 +9,13 @@
 #include "controls/TextLabel.h"
 #include "controls/TitleMenuButton.h"
 #include "controls/TitleTextBox.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/UifStd.h"
 #include "params/SliderParamHost.h"
 #include "params/TitledGlob.h"
 #include "params/UIBuilderParams.h"
 #include "platform/JSON.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include <gtest/gtest.h>
 
@@ -64,13 +64,13 @@ protected:
         return nullptr;
     }
     static void typeInto(TextBoxBase* box, const wchar_t* text) {
-        TestKit::click(TestKit::centreOf(box));
+        TestKit::click(box);
         TestKit::pressKey('a', Modifiers::Control);
         TestKit::typeText(text);
         TestKit::pressKey(Keys::Return);
     }
     static void choose(TitleMenuButton* row, int entry) {
-        TestKit::click(TestKit::centreOf(row->getBtn()));
+        TestKit::click(row->getBtn());
         Menu* menu = row->getBtn()->getMenu();
         ASSERT_NE(menu, nullptr);
         BoxInt b = menu->rowBox(entry);
@@ -105,13 +105,13 @@ TEST_F(UIBuilderJSON, AWholeDescriptionBuildsAndFollowsTheMouseAndKeyboard) {
     std::vector<std::string> heard;
     set->addListener(listenerInto(heard));
 
-    TestKit::click(TestKit::centreOf(set->getWidget("advanced")));
+    TestKit::click("advanced");
     EXPECT_EQ(heard, (std::vector<std::string>{"advanced"}));
     EXPECT_TRUE(sliderOf(set->getWidget("gain"))->isActive());
     EXPECT_TRUE(boxOf(set->getWidget("gain"))->isActive());
     EXPECT_FALSE(set->getWidget("title")->isActive()) << "mode is not yet 2";
 
-    choose(dynamic_cast<TitleMenuButton*>(set->getWidget("mode")), 2);
+    choose(TestKit::find<TitleMenuButton>("mode"), 2);
     EXPECT_EQ(heard, (std::vector<std::string>{"advanced", "mode"}));
     EXPECT_EQ(set->params()[1]->getValueAsString(), L"2");
     EXPECT_FALSE(fast->isVisible());

@@ -9,13 +9,13 @@
 #include "controls/TitleMenuButton.h"
 #include "controls/TitleTextBox.h"
 #include "controls/VerticalScrollingBase.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/UifStd.h"
 #include "params/RemappingValAdaptor.h"
 #include "params/SliderParamHost.h"
 #include "params/TitledGlob.h"
 #include "params/UIBuilderParams.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include <gtest/gtest.h>
 
@@ -87,9 +87,10 @@ TEST_F(UIBuilderList, EachKnownParameterGetsItsKindOfRowOnACloneInRowOrder) {
     EXPECT_STREQ(set->getWidget("reset")->idstring(), "TitledButton");
 
     // The caller's parameters keep their values: the rows work on clones.
-    auto* loop = dynamic_cast<Checkbox*>(set->getWidget("loop"));
+    auto* loop = TestKit::find<Checkbox>("loop");
+    ASSERT_EQ(loop, set->getWidget("loop")) << "a row is named by its parameter's id";
     EXPECT_TRUE(loop->getState());
-    TestKit::click(TestKit::centreOf(loop));
+    TestKit::click(loop);
     EXPECT_EQ(set->params()[1]->getValueAsString(), L"false");
     EXPECT_EQ(params[1]->getValueAsString(), L"true");
 
@@ -187,7 +188,7 @@ TEST_F(UIBuilderList, DependenciesOfTheCallersParametersActOnTheClones) {
     std::vector<std::string> heard;
     set->addListener(listenerInto(heard));
 
-    TestKit::click(TestKit::centreOf(set->getWidget("advanced")));
+    TestKit::click("advanced");
     EXPECT_TRUE(set->getWidget("detail")->isActive());
     EXPECT_TRUE(set->getWidget("high")->isVisible());
     EXPECT_EQ(heard, (std::vector<std::string>{"advanced"}));
@@ -214,7 +215,7 @@ TEST_F(UIBuilderList, AResetActionChangesEverythingAndIsToldOnce) {
     set->params()[2]->setValueFromString(L"other");
     std::vector<std::string> heard;
     set->addListener(listenerInto(heard));
-    TestKit::click(TestKit::centreOf(reset->control()));
+    TestKit::click(reset->control());
     EXPECT_EQ(heard, (std::vector<std::string>{"+payload"})) << "one call, with the action's message";
     EXPECT_EQ(set->params()[0]->getValueAsString(), L"false");
     EXPECT_FALSE(dynamic_cast<Checkbox*>(set->getWidget("loop"))->getState()) << "the widgets follow";

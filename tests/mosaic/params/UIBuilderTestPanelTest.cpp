@@ -5,7 +5,7 @@
 #include "controls/PushButton.h"
 #include "glob/GlobManager.h"
 #include "platform/CommandRegistrar.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include <gtest/gtest.h>
 
@@ -40,7 +40,7 @@ TEST_F(UIBuilderTestPanels, BuildShowsWhatIsTypedAndReplacesTheLastPanel) {
     ASSERT_NE(build, nullptr);
 
     panel->editor()->setText(L"{\"p\": [{\"type\": \"bool\", \"name\": \"a\", \"legend\": \"A\"}, {\"type\": \"text\", \"name\": \"b\"}]}");
-    TestKit::click(TestKit::centreOf(build));
+    TestKit::click(build);
     HostPanel* first = panel->host();
     ASSERT_NE(first, nullptr);
     EXPECT_EQ(first->params()->params().size(), 2u);
@@ -48,12 +48,12 @@ TEST_F(UIBuilderTestPanels, BuildShowsWhatIsTypedAndReplacesTheLastPanel) {
     EXPECT_GE(first->getX(), panel->getX() + panel->width()) << "beside the editor";
 
     panel->editor()->setText(L"{\"p\": [{\"type\": \"int\", \"name\": \"n\"}]}");
-    TestKit::click(TestKit::centreOf(build));
+    TestKit::click(build);
     ASSERT_EQ(roots<HostPanel>().size(), 1u) << "the panel built before is gone";
     EXPECT_EQ(panel->host()->params()->params().size(), 1u);
 
     panel->editor()->setText(L"{\"p\": [ not json");
-    TestKit::click(TestKit::centreOf(build));
+    TestKit::click(build);
     EXPECT_TRUE(roots<HostPanel>().empty()) << "text that does not parse builds nothing";
 }
 

@@ -1,7 +1,7 @@
 #include "ControlsTestSupport.h"
 #include "controls/ButtonWidget.h"
 #include "controls/PushButton.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "value/ValAdaptor.h"
 
 namespace {
@@ -18,14 +18,14 @@ protected:
 
 TEST_F(Buttons, AClickSendsTheMessageToTheOwnerOrCallsTheCallback) {
     Button* b = button();
-    TestKit::click(TestKit::centreOf(b));
+    TestKit::click(b);
     ASSERT_EQ(host->messages, std::vector<std::string>{"pressed"});
     EXPECT_EQ(host->senders[0], b);
 
     int calls = 0;
     std::string name;
     b->setCallback(WidgetCallback(countingCallback(calls, &name), "viaCallback"));
-    TestKit::click(TestKit::centreOf(b));
+    TestKit::click(b);
     EXPECT_EQ(calls, 1);
     EXPECT_EQ(name, "viaCallback");
     EXPECT_EQ(host->messages.size(), 1u) << "a callback replaces the message";
@@ -38,7 +38,7 @@ TEST_F(Buttons, ReleasingOutsideOrWhileInactiveDoesNotClick) {
     TestKit::mouseUp(TestKit::screenPointOf(b, {b->width() + 30, 5}));
     EXPECT_TRUE(host->messages.empty());
     b->setActive(false);
-    TestKit::click(TestKit::centreOf(b));
+    TestKit::click(b);
     EXPECT_TRUE(host->messages.empty());
 }
 
@@ -110,7 +110,7 @@ TEST_F(Buttons, AButtonWidgetOffersItsValueAndShowsTheValueItIsGiven) {
     adaptor->forceWidgetUpdate(kRedraw);
     EXPECT_EQ(c->getLabel().getString(), WString(L"5"));
     TestKit::pump();
-    TestKit::click(TestKit::centreOf(c));
+    TestKit::click(c);
     EXPECT_EQ(clicks.value(), 6);
     EXPECT_EQ(c->getLabel().getString(), WString(L"6"));
     EXPECT_EQ(host->messages, std::vector<std::string>{"counted"});

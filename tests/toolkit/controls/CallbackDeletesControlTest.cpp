@@ -51,7 +51,7 @@ protected:
         EXPECT_EQ(d.calls, 1);
         EXPECT_FALSE(alive(d.glob, d.stamp));
     }
-    static void click(Glob* g) { TestKit::click(TestKit::centreOf(g)); }
+    static void click(Glob* g) { TestKit::click(g); }
     static std::function<void(Glob*)> focusAndPress(int key) {
         return [key](Glob* g) {
             set_kbd_focus(g);

@@ -44,7 +44,7 @@ TEST_F(Checkboxes, BoundToAValueItShowsAndChangesTheServer) {
     c->setDataAdaptor(Zn::Ptr<ValAdaptorBase<bool>>(new ValAdaptor<bool, bool>(&loop)));
     c->getDataAdaptor()->forceWidgetUpdate(kRedraw);
     EXPECT_TRUE(c->getState());
-    TestKit::click(TestKit::centreOf(c));
+    TestKit::click(c);
     EXPECT_FALSE(loop.value());
     EXPECT_FALSE(c->getState());
     loop = true;
@@ -61,7 +61,7 @@ TEST_F(Checkboxes, AManagerThatRefusesKeepsTheBoxAsItWas) {
     locked.setManager(&refuse);
     Checkbox* c = box(false);
     c->setDataAdaptor(Zn::Ptr<ValAdaptorBase<bool>>(new ValAdaptor<bool, bool>(&locked)));
-    TestKit::click(TestKit::centreOf(c));
+    TestKit::click(c);
     EXPECT_FALSE(locked.value());
     EXPECT_FALSE(c->getState());
     locked.setManager(nullptr);
@@ -71,7 +71,7 @@ TEST_F(Checkboxes, AnInactiveBoxIgnoresTheUser) {
     Checkbox* c = box(true);
     c->setEnabledState(false);
     EXPECT_FALSE(c->getEnabledState());
-    TestKit::click(TestKit::centreOf(c));
+    TestKit::click(c);
     EXPECT_TRUE(c->getState());
     EXPECT_TRUE(host->messages.empty());
     EXPECT_EQ(tickPixels(c), 0) << "an inactive tick is drawn dimmed";

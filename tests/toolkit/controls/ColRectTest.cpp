@@ -58,7 +58,7 @@ TEST_F(Swatches, TranslucentColoursShowAChequerAndBadComponentsAreClamped) {
 TEST_F(Swatches, AClickFiresTheCallbackAndLeavesTheColour) {
     const ColourData red(1.0, 0.0, 0.0, 0, 1.0);
     ColRect* s = swatch(red);
-    TestKit::click(TestKit::centreOf(s));
+    TestKit::click(s);
     ASSERT_EQ(host->messages, std::vector<std::string>{"swatch"});
     EXPECT_EQ(host->senders[0], s);
     EXPECT_EQ(s->getColour(), red);
@@ -73,7 +73,7 @@ TEST_F(Swatches, AClickFiresTheCallbackAndLeavesTheColour) {
         << "focus shows as a ring";
 
     s->setClickable(false);
-    TestKit::click(TestKit::centreOf(s));
+    TestKit::click(s);
     EXPECT_EQ(calls, 1) << "a swatch that only shows takes no clicks";
     EXPECT_FALSE(s->acceptsKbdFocus());
 }

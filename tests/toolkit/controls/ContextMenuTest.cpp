@@ -62,10 +62,10 @@ TEST_F(ContextMenus, RowsAreFilledOnceAndReviewedBeforeEveryOpening) {
     };
     StandardPanel::InitArgs a(200, 120);
     auto* p = add<Recording>(a, {150, 40});
-    TestKit::click(TestKit::centreOf(p), Event::kRight);
+    TestKit::click(p, Event::kRight);
     TestKit::pressKey(Keys::Escape);
     p->canPaste = true;
-    TestKit::click(TestKit::centreOf(p), Event::kRight);
+    TestKit::click(p, Event::kRight);
     Menu* m = p->getOpenMenu();
     ASSERT_NE(m, nullptr);
     TestKit::click(rowCentre(m, 1));
@@ -78,17 +78,17 @@ TEST_F(ContextMenus, RowsAreFilledOnceAndReviewedBeforeEveryOpening) {
 TEST_F(ContextMenus, APanelWithoutRowsOpensNoMenu) {
     auto* p = add<StandardPanel>(StandardPanel::InitArgs(200, 120), {150, 40});
     const std::size_t roots = GlobManager::instance().roots().size();
-    TestKit::click(TestKit::centreOf(p), Event::kRight);
+    TestKit::click(p, Event::kRight);
     EXPECT_EQ(p->getOpenMenu(), nullptr);
     EXPECT_EQ(GlobManager::instance().roots().size(), roots);
-    TestKit::click(TestKit::centreOf(host), Event::kLeft);
+    TestKit::click(host, Event::kLeft);
     EXPECT_TRUE(host->messages.empty());
 }
 
 TEST_F(ContextMenus, TheMenuTitleShowsAboveTheRows) {
     ClipPanel* p = clipPanel();
     p->setMenuTitle(UIString(L"Clip"));
-    TestKit::click(TestKit::centreOf(p), Event::kRight);
+    TestKit::click(p, Event::kRight);
     Menu* m = p->getOpenMenu();
     ASSERT_NE(m, nullptr);
     EXPECT_EQ(m->getTitle().getString(), L"Clip");
@@ -98,7 +98,7 @@ TEST_F(ContextMenus, TheMenuTitleShowsAboveTheRows) {
 
 TEST_F(ContextMenus, APanelThatGoesTakesItsMenuWithIt) {
     ClipPanel* p = clipPanel();
-    TestKit::click(TestKit::centreOf(p), Event::kRight);
+    TestKit::click(p, Event::kRight);
     Menu* m = p->getOpenMenu();
     ASSERT_NE(m, nullptr);
     const IdStamp stamp = m->stamp();
@@ -108,6 +108,6 @@ TEST_F(ContextMenus, APanelThatGoesTakesItsMenuWithIt) {
     EXPECT_FALSE(alive(m, stamp));
     EXPECT_EQ(GlobManager::instance().topModal(), nullptr);
     Button* b = add<Button>(Button::InitArgs(UIString(L"Go"), WidgetCallback("go"), 80, 30), {10, 10});
-    TestKit::click(TestKit::centreOf(b));
+    TestKit::click(b);
     EXPECT_EQ(host->messages, std::vector<std::string>{"go"}) << "input is back to normal";
 }

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "controls/StandardPanel.h"
 #include "core/FunctionCallback.h"
 #include "core/NotifyMsg.h"
 #include "glob/GlobManager.h"
-#include "glob/StandardPanel.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include <functional>
 #include <string>

@@ -13,11 +13,11 @@ TEST_F(CycleButtons, ClicksStepThroughTheStatesAndWrap) {
     CycleButton* c = cycle();
     EXPECT_EQ(c->getPickState(), 0);
     EXPECT_EQ(c->getLabel().getString(), WString(L"Off"));
-    for (int i = 0; i < 3; ++i) TestKit::click(TestKit::centreOf(c));
+    for (int i = 0; i < 3; ++i) TestKit::click(c);
     TestKit::pump();
     EXPECT_EQ(c->getPickState(), 0);
     EXPECT_EQ(host->messages.size(), 3u);
-    TestKit::click(TestKit::centreOf(c), Event::kLeft, Modifiers::Shift);
+    TestKit::click(c, Event::kLeft, Modifiers::Shift);
     EXPECT_EQ(c->getPickState(), 2) << "shift steps back";
     EXPECT_EQ(c->getLabel().getString(), WString(L"Fast"));
 }
@@ -29,7 +29,7 @@ TEST_F(CycleButtons, StatesOutOfRangeAndEmptyListsAreHarmless) {
     c->setPickStrings({L"Only"});
     EXPECT_EQ(c->getPickState(), 0);
     c->setPickStrings({});
-    TestKit::click(TestKit::centreOf(c));
+    TestKit::click(c);
     EXPECT_EQ(c->getPickState(), 0);
     EXPECT_TRUE(c->getLabel().getString().empty());
     EXPECT_TRUE(host->messages.empty()) << "nothing to step to, nothing to report";
@@ -54,10 +54,10 @@ TEST_F(CycleButtons, IconsStandForTheirStatesAndAMissingOneLeavesTheLabel) {
     EXPECT_TRUE(c->getLabel().getString().empty()) << "the label is kept off an icon";
     const int closedInk = inkPixels(c, middle, face);
     EXPECT_GT(closedInk, 20);
-    TestKit::click(TestKit::centreOf(c));
+    TestKit::click(c);
     EXPECT_TRUE(c->showsIcon());
     EXPECT_NE(inkPixels(c, middle, face), closedInk) << "each state paints its own icon";
-    TestKit::click(TestKit::centreOf(c));
+    TestKit::click(c);
     EXPECT_FALSE(c->showsIcon());
     EXPECT_EQ(c->getLabel().getString(), WString(L"Third"));
     EXPECT_GT(inkPixels(c, BoxInt(0, 6, 40, 22), face), 0) << "the label is painted instead";

@@ -1,7 +1,7 @@
 #include "controls/DropDownMenuButton.h"
 #include "MenusTestSupport.h"
+#include "draw/UifStd.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 #include "value/ValAdaptor.h"
 
 #include <algorithm>
@@ -32,7 +32,7 @@ protected:
     DropDownMenuButton* dropDown(const DropDownMenuButton::InitArgs& a) { return add<DropDownMenuButton>(a, {20, 60}); }
     DropDownMenuButton* rateButton() { return dropDown(DropDownMenuButton::InitArgs(rates(), 120, 26)); }
     Menu* openWithClick(DropDownMenuButton* b) {
-        TestKit::click(TestKit::centreOf(b));
+        TestKit::click(b);
         return b->getMenu();
     }
     int count(const std::string& message) const { return static_cast<int>(std::count(host->messages.begin(), host->messages.end(), message)); }
@@ -130,7 +130,7 @@ TEST_F(DropDowns, TheOwnerMayRebuildTheRowsWhenTheMenuIsAboutToOpen) {
     DropDownMenuButton::InitArgs a(rates(), 120, 26);
     owner->button = owner->createWidget<DropDownMenuButton>(a, Glob::UserBottomLeft(10, 10));
     TestKit::pump();
-    TestKit::click(TestKit::centreOf(owner->button));
+    TestKit::click(owner->button);
     Menu* m = owner->button->getMenu();
     ASSERT_NE(m, nullptr);
     ASSERT_EQ(m->items().size(), 2u);
@@ -225,7 +225,7 @@ TEST_F(DropDowns, APressOutsideClosesTheMenuWithNoChoice) {
     TestKit::click(TestKit::screenPointOf(host, {300, 150}));
     EXPECT_FALSE(b->isMenuOpen());
     ASSERT_NE(openWithClick(b), nullptr);
-    TestKit::click(TestKit::centreOf(b));
+    TestKit::click(b);
     EXPECT_FALSE(b->isMenuOpen()) << "a click on the button closes its menu and does not open it again";
     EXPECT_EQ(b->getSelectedItem(), 0);
     EXPECT_EQ(host->messages, (std::vector<std::string>{"ddBtnClickMsg", "ddBtnClickMsg"}));

@@ -7,8 +7,8 @@
 #include "controls/TextBox.h"
 #include "core/Utf8.h"
 #include "draw/Screen.h"
+#include "draw/UifStd.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 
 #include <dirent.h>
 #include <filesystem>
@@ -106,7 +106,7 @@ protected:
         TestKit::click(rowPoint(b, row));
     }
     // Moves the mouse's last click away, so that the next click on a row is a single one.
-    void clickAside() { TestKit::click(TestKit::centreOf(owner)); }
+    void clickAside() { TestKit::click(owner); }
     static void typePath(FileBrowserBase* b, const std::string& text) {
         b->pathBox()->setString(fromUTF8(text));
         set_kbd_focus(b->pathBox());
@@ -265,7 +265,7 @@ TEST_F(FileBrowserTest, DoubleClickEntersAFolderAndUpAndBackspaceComeBack) {
     EXPECT_EQ(names(b), (std::vector<std::wstring>{L"deeper", L"inner.txt"}));
     EXPECT_EQ(b->pathBox()->getString(), path("alpha"));
 
-    TestKit::click(TestKit::centreOf(b->upButton()));
+    TestKit::click(b->upButton());
     EXPECT_EQ(b->getCurrentFolder(), fromUTF8(tmp.str()));
     EXPECT_EQ(b->table()->getCurPos().y, rowOf(b, L"alpha")) << "the folder left is current again";
     EXPECT_TRUE(b->getSelectedRows().empty());
@@ -391,19 +391,19 @@ TEST_F(FileBrowserTest, DoubleClickOnAFileChoosesItTellsCallbackAndOwnerAndClose
 TEST_F(FileBrowserTest, OkSendsTheSelectionAndDoesNothingWithoutOne) {
     FileBrowser* b = open();
     const IdStamp stamp = b->stamp();
-    TestKit::click(TestKit::centreOf(b->okButton()));
+    TestKit::click(b->okButton());
     EXPECT_TRUE(alive(b, stamp));
     EXPECT_TRUE(answers.lists.empty()) << "nothing selected, nothing sent";
 
     // OK on a folder opens it.
     clickRow(b, rowOf(b, L"alpha"));
-    TestKit::click(TestKit::centreOf(b->okButton()));
+    TestKit::click(b->okButton());
     EXPECT_EQ(b->getCurrentFolder(), path("alpha"));
     EXPECT_TRUE(answers.lists.empty());
 
     clickRow(b, rowOf(b, L"inner.txt"));
     EXPECT_EQ(b->getSelectedFiles().vec(), std::vector<WStr>{path("alpha/inner.txt")});
-    TestKit::click(TestKit::centreOf(b->okButton()));
+    TestKit::click(b->okButton());
     EXPECT_FALSE(alive(b, stamp));
     EXPECT_EQ(answers.lists, std::vector<std::vector<WStr>>{{path("alpha/inner.txt")}});
 }
@@ -422,7 +422,7 @@ TEST_F(FileBrowserTest, SeveralFilesAreSelectedWithControlAndShift) {
     // A folder in the selection is not part of the answer.
     clickRow(b, 0, Modifiers::Control);
     EXPECT_EQ(b->getSelectedRows().size(), 4u);
-    TestKit::click(TestKit::centreOf(b->okButton()));
+    TestKit::click(b->okButton());
     ASSERT_EQ(answers.lists.size(), 1u);
     EXPECT_EQ(answers.lists.front(), (std::vector<WStr>{path("apple.png"), path("notes.txt"), path("Zed.PNG")}));
 
@@ -459,7 +459,7 @@ TEST_F(FileBrowserTest, FolderModeChoosesTheFolderShownOrTheSubfolderSelected) {
 TEST_F(FileBrowserTest, CancelEscapeAndTheCloseBoxAnswerWithAnEmptyListAndClose) {
     FileBrowser* b = open(FileBrowserBase::kFolder);
     IdStamp stamp = b->stamp();
-    TestKit::click(TestKit::centreOf(b->cancelButton()));
+    TestKit::click(b->cancelButton());
     EXPECT_FALSE(alive(b, stamp));
     EXPECT_EQ(answers.lists, std::vector<std::vector<WStr>>{{}});
     EXPECT_TRUE(owner->messages.empty()) << "no fileBrowserSelectedMsg for a cancel";

@@ -40,7 +40,7 @@ TEST_F(Images, AnIconButtonPaintsItsIconAndDegradesWithoutOne) {
     ASSERT_TRUE(b->hasImage());
     const std::uint32_t face = TestKit::globPixel(b, 4, 16);
     EXPECT_GT(inkPixels(b, BoxInt(8, 8, 24, 24), face, 60), 20) << "the cross is painted";
-    TestKit::click(TestKit::centreOf(b));
+    TestKit::click(b);
     EXPECT_EQ(host->messages, std::vector<std::string>{"poot"});
     b->setImage(L"/no/such/icon.png");
     TestKit::pump();
@@ -53,11 +53,11 @@ TEST_F(Images, ALatchingButtonStaysDownUntilClickedAgain) {
     auto* b = add<ImageButton>(ImageButton::InitArgs(getIconPath(L"magnify"), WidgetCallback("tool"), 32, 32));
     b->setLatching(true);
     const std::uint32_t up = TestKit::globPixel(b, 3, 16);
-    TestKit::click(TestKit::centreOf(b));
+    TestKit::click(b);
     TestKit::mouseMove({5, 5});
     EXPECT_TRUE(b->isLatched());
     EXPECT_TRUE(similar(TestKit::globPixel(b, 3, 16), TestKit::argb(b->getPalette().window(kShadeDark)), 2));
-    TestKit::click(TestKit::centreOf(b));
+    TestKit::click(b);
     TestKit::mouseMove({5, 5});
     EXPECT_FALSE(b->isLatched());
     EXPECT_EQ(TestKit::globPixel(b, 3, 16), up);

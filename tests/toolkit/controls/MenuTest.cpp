@@ -1,8 +1,8 @@
 #include "MenusTestSupport.h"
 #include "controls/Button.h"
 #include "draw/Screen.h"
+#include "draw/UifStd.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 
 namespace {
 
@@ -101,12 +101,12 @@ TEST_F(Menus, APressOutsideClosesTheMenuAndGoesNoFurther) {
     Button* b = hostButton();
     Menu* m = popUp(editRows());
     const IdStamp stamp = m->stamp();
-    TestKit::click(TestKit::centreOf(m));
+    TestKit::click(m);
     EXPECT_TRUE(m->isOpen()) << "a press inside, on no row that can be chosen, keeps it up";
-    TestKit::click(TestKit::centreOf(b));
+    TestKit::click(b);
     EXPECT_FALSE(alive(m, stamp));
     EXPECT_EQ(host->messages, std::vector<std::string>{"menu_poot"}) << "the press that closed the menu did not reach the button";
-    TestKit::click(TestKit::centreOf(b));
+    TestKit::click(b);
     EXPECT_EQ(host->messages, (std::vector<std::string>{"menu_poot", "pressed"}));
 }
 
@@ -122,7 +122,7 @@ TEST_F(Menus, AMenuWithNoRowsOpensEmptyAndCloses) {
     EXPECT_TRUE(m->isOpen());
     EXPECT_EQ(m->highlightedRow(), -1);
     EXPECT_FALSE(m->choose(0));
-    TestKit::click(TestKit::centreOf(m));
+    TestKit::click(m);
     EXPECT_TRUE(m->isOpen());
     TestKit::pressKey(Keys::Escape);
     EXPECT_FALSE(alive(m, stamp));

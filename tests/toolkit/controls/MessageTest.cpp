@@ -2,8 +2,8 @@
 #include "controls/PushButton.h"
 #include "controls/Warn.h"
 #include "draw/Screen.h"
+#include "draw/UifStd.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 
 namespace {
 
@@ -33,11 +33,11 @@ TEST_F(Messages, AMessageIsCentredModalAndClosesOnOk) {
     EXPECT_EQ(m->getTitle().getString(), WString(L"Information")) << "a message without a title gets the default";
     EXPECT_GT(inkPixels(m, m->textBox(), TestKit::argb(m->getPalette().window())), 50) << "the text is written";
 
-    TestKit::click(TestKit::centreOf(host));
+    TestKit::click(host);
     EXPECT_TRUE(alive(m, stamp)) << "a click beside a modal message does not close it";
     EXPECT_TRUE(host->messages.empty());
 
-    TestKit::click(TestKit::centreOf(m->getButton(0)));
+    TestKit::click(m->getButton(0));
     EXPECT_FALSE(alive(m, stamp));
     EXPECT_EQ(GlobManager::instance().topModal(), nullptr);
 }
@@ -106,7 +106,7 @@ TEST_F(Messages, AWarningHasItsButtonsAndTheWarningColour) {
               Button::calcWidth(L"A label far longer than any button's least width"));
 
     IdStamp stamp = w->stamp();
-    TestKit::click(TestKit::centreOf(w->getButton(1)));
+    TestKit::click(w->getButton(1));
     EXPECT_FALSE(alive(w, stamp));
     EXPECT_EQ(host->messages, std::vector<std::string>{"keep"}) << "a button without a callback posts its message to the client";
     EXPECT_EQ(calls, 0);
@@ -122,7 +122,7 @@ TEST_F(Messages, AWarningHasItsButtonsAndTheWarningColour) {
 
     w = make_warn(UIString(), L"Replace?", {L"Replace", L"Keep", L"Cancel"}, callbacks, host, true);
     stamp = w->stamp();
-    TestKit::click(TestKit::centreOf(w->getButton(2)));
+    TestKit::click(w->getButton(2));
     EXPECT_FALSE(alive(w, stamp)) << "a label without a callback only closes";
     EXPECT_EQ(calls, 1);
     EXPECT_EQ(host->messages.size(), 1u);
@@ -130,6 +130,6 @@ TEST_F(Messages, AWarningHasItsButtonsAndTheWarningColour) {
     w = make_warn(UIString(), UIString(), {}, {}, nullptr, true);
     ASSERT_EQ(w->numButtons(), 1) << "no labels give an OK button";
     stamp = w->stamp();
-    TestKit::click(TestKit::centreOf(w->getButton(0)));
+    TestKit::click(w->getButton(0));
     EXPECT_FALSE(alive(w, stamp));
 }

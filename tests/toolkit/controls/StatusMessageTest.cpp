@@ -2,7 +2,7 @@
 #include "PanelsTestSupport.h"
 #include "controls/PushButton.h"
 #include "draw/Screen.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "platform/Clock.h"
 
 namespace {
@@ -106,7 +106,7 @@ TEST_F(StatusMessages, TheOkButtonEndsTheMessage) {
     TestKit::pump();
     ASSERT_NE(s->getOkButton(), nullptr);
     EXPECT_GE(s->textBox().y1, s->getOkButton()->getY() + s->getOkButton()->height()) << "the text is above the button";
-    TestKit::click(TestKit::centreOf(s->getOkButton()));
+    TestKit::click(s->getOkButton());
     EXPECT_EQ(oks, 1);
     EXPECT_FALSE(EventHandler::valid(s, stamp));
 }

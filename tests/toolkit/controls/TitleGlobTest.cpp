@@ -1,7 +1,7 @@
 #include "PanelsTestSupport.h"
 #include "controls/TextLabel.h"
 #include "controls/TitleButton.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 
 namespace {
 
@@ -142,14 +142,14 @@ TEST_F(TitledRows, AMeasuredLegendFollowsItsTextAndTheScale) {
 
 TEST_F(TitledRows, TheButtonReportsToTheRowsOwner) {
     TitleButton* r = row(L"Preset");
-    TestKit::click(TestKit::centreOf(r->getBtn()));
+    TestKit::click(r->getBtn());
     TestKit::pump();
     ASSERT_EQ(host->messages, std::vector<std::string>{"pressed"});
     EXPECT_EQ(host->senders[0], r->getBtn()) << "the owner sees the button as sender";
 
     int calls = 0;
     r->setCallback(WidgetCallback(countingCallback(calls), "direct"));
-    TestKit::click(TestKit::centreOf(r->getBtn()));
+    TestKit::click(r->getBtn());
     TestKit::pump();
     EXPECT_EQ(calls, 1);
     EXPECT_EQ(host->messages.size(), 1u);
@@ -157,7 +157,7 @@ TEST_F(TitledRows, TheButtonReportsToTheRowsOwner) {
     r->setLabel(L"Other");
     EXPECT_EQ(r->getLabel().getString(), WString(L"Other"));
     r->setActive(false);
-    TestKit::click(TestKit::centreOf(r->getBtn()));
+    TestKit::click(r->getBtn());
     TestKit::pump();
     EXPECT_EQ(calls, 1) << "an inactive row does not fire";
 }

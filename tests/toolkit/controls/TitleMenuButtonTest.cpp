@@ -1,6 +1,6 @@
 #include "controls/TitleMenuButton.h"
 #include "MenusTestSupport.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 
 namespace {
 
@@ -38,7 +38,7 @@ TEST_F(TitledMenus, TheTitleIsAtTheLeftAndTheButtonAtTheRight) {
 TEST_F(TitledMenus, TheButtonsMessagesReachTheOwnerFromTheTitledWidget) {
     TitleMenuButton* t = titled();
     t->getBtn()->setCallback(WidgetCallback("rateChanged"));
-    TestKit::click(TestKit::centreOf(t->getBtn()));
+    TestKit::click(t->getBtn());
     Menu* m = t->getBtn()->getMenu();
     ASSERT_NE(m, nullptr);
     TestKit::click(rowCentre(m, 2));
@@ -58,7 +58,7 @@ TEST_F(TitledMenus, SelectionAndRowsGoThroughToTheButton) {
     EXPECT_EQ(t->getBtn()->width(), DropDownMenuButton::calcWidth(t->getBtn()->getItems(), t->getBtn()->getFont())) << "the button fits its new rows";
     t->setActive(false);
     EXPECT_FALSE(t->getBtn()->isActive());
-    TestKit::click(TestKit::centreOf(t->getBtn()));
+    TestKit::click(t->getBtn());
     EXPECT_FALSE(t->getBtn()->isMenuOpen());
     EXPECT_TRUE(host->messages.empty());
 }

@@ -2,7 +2,7 @@
 #include "draw/CanvasRenderer.h"
 #include "draw/Screen.h"
 #include "draw/StateSaver.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 #include "Blocks.h"
 
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
 #include "glob/InputDispatcher.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 
 using TestKit::Owned;
 
@@ -130,7 +130,7 @@ TEST_F(Input, CloseBoxAndTitleDragWork) {
         return !close;
     });
     ASSERT_NE(close, nullptr);
-    TestKit::click(TestKit::centreOf(close));
+    TestKit::click(close);
     EXPECT_FALSE(EventHandler::valid(p, stamp));
 }
 
@@ -160,11 +160,11 @@ TEST_F(Input, TheCogsOpenThePanelsMenuAndTheDoItButtonPostsItsMainMessage) {
         return true;
     });
     ASSERT_EQ(furniture.size(), 2u);
-    TestKit::click(TestKit::centreOf(furniture[1]));
+    TestKit::click(furniture[1]);
     TestKit::pump();
     EXPECT_EQ(p->doIts, 1);
     EXPECT_EQ(p->getOpenMenu(), nullptr);
-    TestKit::click(TestKit::centreOf(furniture[0]));
+    TestKit::click(furniture[0]);
     TestKit::pump();
     EXPECT_NE(p->getOpenMenu(), nullptr);
     EXPECT_EQ(p->doIts, 1);

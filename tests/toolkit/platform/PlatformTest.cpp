@@ -13,7 +13,7 @@
 #include "platform/ResourceStrings.h"
 #include "platform/SystemWatchdog.h"
 #include "platform/getSystemLogDirectory.h"
-#include "testing/TestHome.h"
+#include "testkit/TestHome.h"
 
 #include <gtest/gtest.h>
 #include <loki/Singleton.h>

@@ -1,7 +1,7 @@
 #include "tasks/TaskLog.h"
+#include "controls/StandardPanel.h"
 #include "core/FunctionCallback.h"
-#include "glob/StandardPanel.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 #include "value/UIThreadCallback.h"
 
 #include <gtest/gtest.h>

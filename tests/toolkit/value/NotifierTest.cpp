@@ -1,6 +1,6 @@
 #include "value/Notifier.h"
 #include "core/FunctionCallback.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "glob/StandardPanel.h"
-#include "testing/TestKit.h"
+#include "controls/StandardPanel.h"
+#include "testkit/TestKit.h"
 #include "value/UIThreadCallback.h"
 #include "value/ValServer.h"
 

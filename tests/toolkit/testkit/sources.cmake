@@ -1,0 +1,3 @@
+list(APPEND GLOBKIT_TEST_SOURCES
+  toolkit/testkit/TestKitTest.cpp
+)
