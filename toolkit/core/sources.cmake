@@ -7,5 +7,6 @@ list(APPEND GLOBKIT_SOURCES
   core/UIString.cpp
   core/Utf8.cpp
   core/WStringFromAscii.cpp
+  core/WStringFromInteger.cpp
   core/splitIf.cpp
 )

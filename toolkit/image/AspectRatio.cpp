@@ -7,6 +7,7 @@ double Zn::getAspectRatio(Image::AspectRatio ratio) {
     case Image::kAspect14x9: return 14.0 / 9.0;
     case Image::kAspect1_85: return 1.85;
     case Image::kAspect2_39: return 2.39;
+    case Image::kAspectUnknown:
     case Image::kAspect16x9: break;
     }
     return 16.0 / 9.0;

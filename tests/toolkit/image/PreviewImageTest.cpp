@@ -14,6 +14,7 @@ TEST(AspectRatios, NamedShapesGiveWidthOverHeightAndUnknownOnesTheUsualPicture) 
     EXPECT_DOUBLE_EQ(Zn::getAspectRatio(Zn::Image::kAspect14x9), 14.0 / 9.0);
     EXPECT_DOUBLE_EQ(Zn::getAspectRatio(Zn::Image::kAspect1_85), 1.85);
     EXPECT_DOUBLE_EQ(Zn::getAspectRatio(Zn::Image::kAspect2_39), 2.39);
+    EXPECT_DOUBLE_EQ(Zn::getAspectRatio(Zn::Image::kAspectUnknown), 16.0 / 9.0);
     EXPECT_DOUBLE_EQ(Zn::getAspectRatio(static_cast<Zn::Image::AspectRatio>(77)), 16.0 / 9.0);
 }
 
