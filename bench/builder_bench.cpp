@@ -24,11 +24,25 @@ std::wstring description(int rows, int conditions) {
         if (i) text += L",";
         std::wstring condition = i > 0 && i % 5 == 0 && conditions-- > 0 ? L", \"active if\": \"p0=true\"" : L"";
         switch (i % 7) {
-        case 0: text += L"{\"type\": \"bool\", \"name\": \"p" + n + L"\", \"legend\": \"Enable stage " + n + L"\", \"default\": true" + condition + L"}"; break;
-        case 1: text += L"{\"type\": \"int\", \"name\": \"p" + n + L"\", \"legend\": \"Level " + n + L"\", \"min\": 0, \"max\": 100, \"default\": 50" + condition + L"}"; break;
-        case 2: text += L"{\"type\": \"float\", \"name\": \"p" + n + L"\", \"legend\": \"Gain " + n + L"\", \"min\": 0, \"max\": 2, \"default\": 1" + condition + L"}"; break;
-        case 3: text += L"{\"type\": \"int\", \"name\": \"p" + n + L"\", \"legend\": \"Mode " + n + L"\", \"values\": {\"Fast\": 0, \"Good\": 1, \"Best\": 2}" + condition + L"}"; break;
-        case 4: text += L"{\"type\": \"text\", \"name\": \"p" + n + L"\", \"legend\": \"Name " + n + L"\", \"value\": \"clip " + n + L"\"" + condition + L"}"; break;
+        case 0:
+            text += L"{\"type\": \"bool\", \"name\": \"p" + n + L"\", \"legend\": \"Enable stage " + n + L"\", \"default\": true" + condition + L"}";
+            break;
+        case 1:
+            text += L"{\"type\": \"int\", \"name\": \"p" + n + L"\", \"legend\": \"Level " + n + L"\", \"min\": 0, \"max\": 100, \"default\": 50" +
+                    condition + L"}";
+            break;
+        case 2:
+            text += L"{\"type\": \"float\", \"name\": \"p" + n + L"\", \"legend\": \"Gain " + n + L"\", \"min\": 0, \"max\": 2, \"default\": 1" +
+                    condition + L"}";
+            break;
+        case 3:
+            text += L"{\"type\": \"int\", \"name\": \"p" + n + L"\", \"legend\": \"Mode " + n +
+                    L"\", \"values\": {\"Fast\": 0, \"Good\": 1, \"Best\": 2}" + condition + L"}";
+            break;
+        case 4:
+            text +=
+                L"{\"type\": \"text\", \"name\": \"p" + n + L"\", \"legend\": \"Name " + n + L"\", \"value\": \"clip " + n + L"\"" + condition + L"}";
+            break;
         case 5: text += L"{\"type\": \"label\", \"name\": \"p" + n + L"\", \"legend\": \"Notes on stage " + n + L" of the export.\"}"; break;
         default: text += L"{\"type\": \"heading\", \"legend\": \"Section " + n + L"\"}"; break;
         }
@@ -38,7 +52,8 @@ std::wstring description(int rows, int conditions) {
 
 StandardPanel* makePanel(int rows) {
     const UifStd& u = UifStd::instance();
-    auto* panel = new StandardPanel(StandardPanel::InitArgs(600, static_cast<unsigned short>(std::min(65000, rows * (u.getRowHeight() + u.getRowGap()) + 40))));
+    auto* panel =
+        new StandardPanel(StandardPanel::InitArgs(600, static_cast<unsigned short>(std::min(65000, rows * (u.getRowHeight() + u.getRowGap()) + 40))));
     panel->setupRootPos({0, 0});
     return panel;
 }
@@ -75,10 +90,11 @@ void BM_OneUserChange(benchmark::State& state) {
     GlobManager::instance().realize(panel);
     GlobManager::instance().runUntilIdle();
     int heard = 0;
-    set->addListener(UIBuilder::Params::Listener(new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([&heard](const NotifyMsg&) {
-        ++heard;
-        return 0;
-    }))));
+    set->addListener(
+        UIBuilder::Params::Listener(new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([&heard](const NotifyMsg&) {
+            ++heard;
+            return 0;
+        }))));
     auto* box = dynamic_cast<Checkbox*>(set->getWidget("p7"));
     bool on = false;
     // What the change asks to be repainted is dropped: painting is not part of a change.

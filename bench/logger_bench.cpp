@@ -32,7 +32,8 @@ void BM_LoggerTakesLinesFromAWorker(benchmark::State& state) {
         Zn::Ptr<iTaskLog> log(new TaskLog);
         Logger* l = makeLogger(log);
         std::thread worker([&log, lines] {
-            for (int i = 0; i < lines; ++i) log->write(LightweightString<wchar_t>(L"frame " + std::to_wstring(i) + L" rendered in 41 ms"), LoggerBase::otNormal);
+            for (int i = 0; i < lines; ++i)
+                log->write(LightweightString<wchar_t>(L"frame " + std::to_wstring(i) + L" rendered in 41 ms"), LoggerBase::otNormal);
         });
         while (l->rowCount() < lines) GlobManager::instance().processPending();
         worker.join();
@@ -48,7 +49,8 @@ BENCHMARK(BM_LoggerTakesLinesFromAWorker)->Arg(60'000)->Unit(benchmark::kMillise
 void BM_LoggerPaintsOneScreen(benchmark::State& state) {
     Zn::Ptr<iTaskLog> log(new TaskLog);
     for (int i = 0; i < state.range(0); ++i)
-        log->write(LightweightString<wchar_t>(L"frame " + std::to_wstring(i) + L" rendered in 41 ms"), i % 50 ? LoggerBase::otNormal : LoggerBase::otWarning);
+        log->write(LightweightString<wchar_t>(L"frame " + std::to_wstring(i) + L" rendered in 41 ms"),
+                   i % 50 ? LoggerBase::otNormal : LoggerBase::otWarning);
     Logger* l = makeLogger(log);
     GlobManager::instance().runUntilIdle();
     l->table()->revealRow(static_cast<int>(state.range(0)) / 2, true, 0);

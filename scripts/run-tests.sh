@@ -20,6 +20,9 @@ run_suite() {
   (cd "$dir" && MOSAIC_TEST_OUTPUT="$PWD/test-output" ctest -j "$jobs" --timeout 600)
 }
 
+echo "== layout of the sources =="
+bash scripts/check-format.sh
+
 echo "== plain build =="
 run_suite build -DCMAKE_BUILD_TYPE=RelWithDebInfo
 

@@ -76,7 +76,7 @@ void addButtons(ControlsPanel* p, int gap, int row) {
     auto* ok = place<PushButton>(p, PushButton::InitArgs(L"Render", WidgetCallback("render"), 110, row), Glob::RightOf(gap, normal));
     ok->setDefault(true);
     Button* flat = place<Button>(p, Button::InitArgs(L"Flat", WidgetCallback("flat"), 90, row), Glob::RightOf(gap, ok));
-    flat->setStyle(1, 1);
+    flat->setStyle(Button::kFlat, Button::kFlat);
     Button* off = place<Button>(p, Button::InitArgs(L"Inactive", WidgetCallback("off"), 110, row), Glob::RightOf(gap, flat));
     off->setActive(false, kNoRedraw);
     ok->claimKbdFocus();
@@ -98,16 +98,16 @@ void addChecks(ControlsPanel* p, int gap, int row) {
 
 // A text box whose text a label shows once it is committed (Return, or leaving the box).
 Glob* addClipName(ControlsPanel* p, int gap, int row, Glob* above) {
-    TitleTextBox::InitArgs args(UIString(L"Clip name"), 180, 270, static_cast<unsigned short>(TextBox::calcHeight()), TitleTextBox::kLegendAgainstBox);
+    TitleTextBox::InitArgs args(UIString(L"Clip name"), 180, 270, static_cast<unsigned short>(TextBox::calcHeight()),
+                                TitleTextBox::kLegendAgainstBox);
     auto* box = place<TitleTextBox>(p, args, Glob::Below(gap, above));
     box->setPlaceholder(UIString(L"Name the clip"));
     box->setDataAdaptor(Zn::Ptr<ValAdaptorBase<WString>>(new ValAdaptor<WString, WString>(&p->clipName)));
     box->getTextBox()->setName("clip-name");
     auto* label = place<TextLabel>(p, TextLabel::InitArgs(L"", 240, row), Glob::RightOf(gap, box));
     label->setName("clip-label");
-    p->clipFollower = std::make_unique<FollowingLabel<WString>>(&p->clipName, label, [](const WString& name) {
-        return name.empty() ? WString(L"No name yet") : WString(L"Named: ") + name;
-    });
+    p->clipFollower = std::make_unique<FollowingLabel<WString>>(
+        &p->clipName, label, [](const WString& name) { return name.empty() ? WString(L"No name yet") : WString(L"Named: ") + name; });
     return box;
 }
 
@@ -127,13 +127,16 @@ Zn::Ptr<iImage> colourBars(int w, int h) {
 
 void addImages(ControlsPanel* p, int gap, int row, Glob* above) {
     const int side = row + gap, wide = 130;
-    auto* magnify = place<ImageButton>(p, ImageButton::InitArgs(getIconPath(L"magnify"), WidgetCallback("magnify"), side, side), Glob::Below(gap, above));
+    auto* magnify =
+        place<ImageButton>(p, ImageButton::InitArgs(getIconPath(L"magnify"), WidgetCallback("magnify"), side, side), Glob::Below(gap, above));
     magnify->setName("magnify");
-    auto* overlay = place<ImageButton>(p, ImageButton::InitArgs(getIconPath(L"eye-open"), WidgetCallback("overlay"), wide, side), Glob::RightOf(gap, magnify));
+    auto* overlay =
+        place<ImageButton>(p, ImageButton::InitArgs(getIconPath(L"eye-open"), WidgetCallback("overlay"), wide, side), Glob::RightOf(gap, magnify));
     overlay->setLabel(UIString(L"Overlay"), kNoRedraw);
     overlay->setLatching(true, true);
     overlay->setName("overlay");
-    auto* pick = place<ImageButton>(p, ImageButton::InitArgs(getIconPath(L"eyedropper"), WidgetCallback("pick"), wide, side), Glob::RightOf(gap, overlay));
+    auto* pick =
+        place<ImageButton>(p, ImageButton::InitArgs(getIconPath(L"eyedropper"), WidgetCallback("pick"), wide, side), Glob::RightOf(gap, overlay));
     pick->setLabel(UIString(L"Pick colour"), kNoRedraw);
     auto* picture = place<ImageView>(p, ImageView::InitArgs(colourBars(160, 90), 160, 90), Glob::RightOf(gap, pick, kAlignEnd));
     picture->setName("picture");
@@ -149,7 +152,8 @@ void addValues(ControlsPanel* p, int gap, int row) {
     quiet->setPosition(0.3, kNoRedraw);
     quiet->setActive(false, kNoRedraw);
     auto* label = place<TextLabel>(p, TextLabel::InitArgs(L"", 200, row), Glob::Below(gap, slider));
-    p->framesFollower = std::make_unique<FollowingLabel<int>>(&p->frames, label, [](const int& n) { return WString(L"Frames: " + std::to_wstring(n)); });
+    p->framesFollower =
+        std::make_unique<FollowingLabel<int>>(&p->frames, label, [](const int& n) { return WString(L"Frames: " + std::to_wstring(n)); });
     addImages(p, gap, row, addClipName(p, gap, row, label));
     p->gauge = place<Gauge>(p, Gauge::InitArgs(static_cast<unsigned short>(p->getUserArea().width() - 2 * gap), row), Glob::UserBottomLeft(gap, gap));
     p->gauge->setMeasure(0.4);
@@ -166,17 +170,19 @@ void buildControls() {
     auto* p = new ControlsPanel(args);
     p->setBorder(StandardPanel::getDefaultBorder());
     p->setTitle(UIString(L"Controls"));
-    p->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kMoveByTitle);
+    p->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kTitleBar);
     const Screen& screen = GlobManager::instance().screen();
     p->setupRootPos({40, screen.height() - 60 - p->height()});
     addButtons(p, gap, row);
     addChecks(p, gap, row);
     addValues(p, gap, row);
-    p->setInterest(4096);
+    p->setInterest(Glob::kTimerInterest);
     GlobManager::instance().realize(p);
     Drawable::enableRedraws();
 }
 
-GallerySceneRegistration controls("controls", "Buttons, check boxes, cycle button, labels, sliders, a text box, icon buttons, a picture and a gauge, with live values", buildControls);
+GallerySceneRegistration
+    controls("controls", "Buttons, check boxes, cycle button, labels, sliders, a text box, icon buttons, a picture and a gauge, with live values",
+             buildControls);
 
 } // namespace

@@ -28,8 +28,8 @@ public:
         box.outline = getPalette().window(kShadeDarkest);
         box.outlineWidth = 1;
         r.render(box);
-        r.render(Glib::TextDescription(BoxInt(0, 0, width(), height()), caption_, UifStd::instance().getDefaultFont(),
-                                       contrastingText(colour_), Glib::kAlignCentreH));
+        r.render(Glib::TextDescription(BoxInt(0, 0, width(), height()), caption_, UifStd::instance().getDefaultFont(), contrastingText(colour_),
+                                       Glib::kAlignCentreH));
     }
 
 private:
@@ -63,7 +63,7 @@ public:
     }
 };
 
-constexpr int kFurniture = StandardPanel::kCloseBox | StandardPanel::kMoveByTitle | StandardPanel::kResizeGrip;
+constexpr int kFurniture = StandardPanel::kCloseBox | StandardPanel::kTitleBar | StandardPanel::kResizeGrip;
 
 void buildDemo() {
     const UifStd& u = UifStd::instance();
@@ -91,7 +91,7 @@ void buildDemo() {
     GlobCreationInfo sideInfo(300, 220);
     side->setupRootPos(GlobManager::instance().getPosForGlob(sideInfo, Glob::RightOf(gap * 3, main, kAlignEnd)));
     auto* inner = new StandardPanel(StandardPanel::InitArgs(GlobCreationInfo(200, 100, side->getPalette(), true, side->canvas()),
-                                                            Border(Border::kSunken, static_cast<unsigned short>(u.getBorderWidth()), 15)));
+                                                            Border(Border::kSunkenBorder, static_cast<unsigned short>(u.getBorderWidth()), 15)));
     inner->setTitle(UIString(L"Nested"));
     side->addChild(inner, Glob::UserCentre(0, 0));
     GlobManager::instance().realize(side);

@@ -40,8 +40,9 @@ fs::path makeProject() {
         fs::last_write_time(project / folder, dayOf(3), ec);
     }
     static const SampleFile files[] = {
-        {"harbour_cut_v3.mov", 1503238553ull, 1}, {"interview_anna.mov", 734003200ull, 9},  {"pier_drone.MP4", 412090368ull, 12},
-        {"titles.png", 2202009ull, 4},            {"colour_notes.txt", 3412ull, 2},         {"edit_decisions.edl", 18022ull, 1},
+        {"harbour_cut_v3.mov", 1503238553ull, 1}, {"interview_anna.mov", 734003200ull, 9},
+        {"pier_drone.MP4", 412090368ull, 12},     {"titles.png", 2202009ull, 4},
+        {"colour_notes.txt", 3412ull, 2},         {"edit_decisions.edl", 18022ull, 1},
         {"thumbnail.jpg", 286720ull, 6},          {"boat_horn.wav", 52428800ull, 15},
     };
     for (const SampleFile& f : files) {

@@ -45,6 +45,15 @@ void visitNamed(const std::function<void(Glob*)>& f) {
         });
 }
 
+// "row NAME INDEX X Y W H TEXT" for each row the table shows, from its first column.
+void printRows(std::FILE* out, const TableWidget& table) {
+    for (int r = table.getFirstVisibleRow(); r <= table.getLastVisibleRow(); ++r) {
+        BoxInt cell = windowBox(&table, table.getCellBox({0, r}));
+        std::fprintf(out, "row %s %d %d %d %d %d %s\n", table.name().c_str(), r, cell.x1, cell.y1, cell.width(), cell.height(),
+                     text(table.getAdaptor()->getFieldText({0, r})).c_str());
+    }
+}
+
 const Glob* namedAncestor(const Glob* g) {
     while (g && g->name().empty()) g = g->parent();
     return g;
@@ -69,17 +78,14 @@ void GalleryProbe::printRoots(std::FILE* out) {
 }
 
 void GalleryProbe::printWidgets(std::FILE* out) {
-    visitNamed([&](Glob* g) {
-        BoxInt b = windowBox(g);
-        std::fprintf(out, "widget %s %s %d %d %d %d\n", g->name().c_str(), g->idstring(), b.x1, b.y1, b.width(), b.height());
-        auto* table = dynamic_cast<const TableWidget*>(g);
-        if (!table || !table->getAdaptor()) return;
-        for (int r = table->getFirstVisibleRow(); r <= table->getLastVisibleRow(); ++r) {
-            BoxInt cell = windowBox(g, table->getCellBox({0, r}));
-            std::fprintf(out, "row %s %d %d %d %d %d %s\n", g->name().c_str(), r, cell.x1, cell.y1, cell.width(), cell.height(),
-                         text(table->getAdaptor()->getFieldText({0, r})).c_str());
-        }
-    });
+    for (Glob* root : GlobManager::instance().roots())
+        root->visitSubtree([&](Glob* g) {
+            BoxInt b = windowBox(g);
+            const char* name = g->name().empty() ? "-" : g->name().c_str();
+            std::fprintf(out, "widget %s %s %d %d %d %d\n", name, g->idstring(), b.x1, b.y1, b.width(), b.height());
+            if (auto* table = dynamic_cast<const TableWidget*>(g); table && table->getAdaptor() && !g->name().empty()) printRows(out, *table);
+            return true;
+        });
     std::fflush(out);
 }
 

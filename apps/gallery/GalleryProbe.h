@@ -21,8 +21,9 @@ public:
 
     // "root KIND X Y W H close CX CY": each top-level glob and its close box's centre.
     static void printRoots(std::FILE* out);
-    // "widget NAME KIND X Y W H": each named glob, roots included; a named table
-    // adds "row NAME INDEX X Y W H TEXT" for each row it shows (the first column).
+    // "widget NAME KIND X Y W H": every glob, roots included, with its idstring as
+    // KIND; NAME is "-" for a glob that has none. A named table adds
+    // "row NAME INDEX X Y W H TEXT" for each row it shows (the first column).
     static void printWidgets(std::FILE* out);
 
     bool reporting() const { return !reportPath_.empty(); }

@@ -24,8 +24,7 @@ struct GalleryScene {
     // A scene's top-level panel: the scheme's colours, the default border, a title
     // bar with `furniture`, its bottom left at `at`; not yet realized.
     template <class P = StandardPanel>
-    static P* makePanel(int w, int h, const wchar_t* title, XY<int> at,
-                        int furniture = StandardPanel::kCloseBox | StandardPanel::kMoveByTitle) {
+    static P* makePanel(int w, int h, const wchar_t* title, XY<int> at, int furniture = StandardPanel::kCloseBox | StandardPanel::kTitleBar) {
         StandardPanel::InitArgs args(static_cast<unsigned short>(w), static_cast<unsigned short>(h));
         args.palette = UifStd::instance().getColourScheme();
         auto* p = new P(args);

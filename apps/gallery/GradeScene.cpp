@@ -25,12 +25,18 @@ struct Parameter {
 };
 
 const std::array<Parameter, 12> kParameters = {{
-    {L"Lift red", 0, Colour(0.85, 0.3, 0.3)},      {L"Lift green", 4, Colour(0.3, 0.75, 0.35)},
-    {L"Lift blue", -6, Colour(0.3, 0.5, 0.9)},     {L"Gamma red", 10, Colour(0.85, 0.3, 0.3)},
-    {L"Gamma green", 0, Colour(0.3, 0.75, 0.35)},  {L"Gamma blue", -12, Colour(0.3, 0.5, 0.9)},
-    {L"Gain red", 20, Colour(0.85, 0.3, 0.3)},     {L"Gain green", 8, Colour(0.3, 0.75, 0.35)},
-    {L"Gain blue", 0, Colour(0.3, 0.5, 0.9)},      {L"Saturation", 35, Colour(0.8, 0.6, 0.2)},
-    {L"Contrast", -15, Colour(0.7, 0.7, 0.7)},     {L"Temperature", 25, Colour(0.9, 0.55, 0.2)},
+    {L"Lift red", 0, Colour(0.85, 0.3, 0.3)},
+    {L"Lift green", 4, Colour(0.3, 0.75, 0.35)},
+    {L"Lift blue", -6, Colour(0.3, 0.5, 0.9)},
+    {L"Gamma red", 10, Colour(0.85, 0.3, 0.3)},
+    {L"Gamma green", 0, Colour(0.3, 0.75, 0.35)},
+    {L"Gamma blue", -12, Colour(0.3, 0.5, 0.9)},
+    {L"Gain red", 20, Colour(0.85, 0.3, 0.3)},
+    {L"Gain green", 8, Colour(0.3, 0.75, 0.35)},
+    {L"Gain blue", 0, Colour(0.3, 0.5, 0.9)},
+    {L"Saturation", 35, Colour(0.8, 0.6, 0.2)},
+    {L"Contrast", -15, Colour(0.7, 0.7, 0.7)},
+    {L"Temperature", 25, Colour(0.9, 0.55, 0.2)},
 }};
 
 class GradePanel : public StandardPanel {
@@ -80,7 +86,7 @@ void buildGrade() {
     auto* p = new GradePanel(args);
     p->setBorder(StandardPanel::getDefaultBorder());
     p->setTitle(UIString(L"Grade"));
-    p->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kMoveByTitle);
+    p->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kTitleBar);
     p->setupRootPos({40, GlobManager::instance().screen().height() - 40 - p->height()});
     CycleButton::InitArgs scope({L"Scope: luma", L"Scope: RGB", L"Scope: parade"}, {}, 160, static_cast<unsigned short>(row));
     Glob* above = p->createWidget<CycleButton>(scope, Glob::UserTopLeft(gap, gap));

@@ -53,7 +53,9 @@ public:
         names[static_cast<std::size_t>(cell.y)] = text;
         return true;
     }
-    std::pair<int, int> getTextAlignment(const XY<int>& cell) override { return {cell.x == 1 ? 1 : -1, 0}; }
+    Glib::TextAlignment getTextAlignment(const XY<int>& cell) override {
+        return {cell.x == 1 ? Glib::kAlignRight : Glib::kAlignDefault, Glib::kAlignMiddle};
+    }
     int getTextStyle(const XY<int>& cell) override { return cell.x == 2 && cell.y % 3 == 0 ? kStyleBold : kStyleDefault; }
 
     std::vector<WStr> names;
@@ -65,9 +67,12 @@ public:
     std::vector<TableColumnDescription> getColumnDefinitions() override { return {TableColumnDescription()}; }
     unsigned getSize() override { return 7; }
     WStr getFieldText(const XY<int>& cell) override {
-        static const wchar_t* lines[] = {L"Render started", L"Reading 12 clips from the project's media folder",
+        static const wchar_t* lines[] = {L"Render started",
+                                         L"Reading 12 clips from the project's media folder",
                                          L"Clip 7 has no audio: silence is used in its place, which keeps the timeline in sync",
-                                         L"Encoding", L"Frame 1024 of 4096", L"Warning: disk almost full",
+                                         L"Encoding",
+                                         L"Frame 1024 of 4096",
+                                         L"Warning: disk almost full",
                                          L"/projects/harbour/exports/final.mov"};
         return cell.y >= 0 && cell.y < 7 ? WStr(lines[cell.y]) : WStr();
     }
@@ -88,9 +93,9 @@ public:
     WStr getItemText(ItemId item) override { return names[item]; }
 
     std::map<ItemId, std::vector<ItemId>> children{{0, {1, 2, 3}}, {1, {11, 12, 13}}, {11, {111, 112, 113}}, {2, {21, 22}}, {3, {31}}};
-    std::map<ItemId, WStr> names{{1, L"Footage"},      {2, L"Sequences"},   {3, L"Effects"},         {11, L"Day 1"},
-                                 {12, L"Day 2"},       {13, L"Archive"},    {111, L"harbour_01.mov"}, {112, L"harbour_02.mov"},
-                                 {113, L"pier.mov"},   {21, L"Rough cut"},  {22, L"Final"},           {31, L"Colour grade"}};
+    std::map<ItemId, WStr> names{{1, L"Footage"},    {2, L"Sequences"},  {3, L"Effects"},          {11, L"Day 1"},
+                                 {12, L"Day 2"},     {13, L"Archive"},   {111, L"harbour_01.mov"}, {112, L"harbour_02.mov"},
+                                 {113, L"pier.mov"}, {21, L"Rough cut"}, {22, L"Final"},           {31, L"Colour grade"}};
 };
 
 ClipTable& clips() {

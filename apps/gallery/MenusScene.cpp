@@ -54,9 +54,15 @@ std::vector<MenuItem> formatRows(const Palette& p) {
     };
     MenuItem cinema = format(L"4K DCI 24p", L"4096x2160");
     cinema.setActive(false);
-    return {heading(L"High definition"), format(L"1080p 25", L"1920x1080"), format(L"1080i 50", L"1920x1080"), format(L"720p 50", L"1280x720"),
-            heading(L"Standard definition"), format(L"PAL", L"720x576"), format(L"NTSC", L"720x486"),
-            heading(L"Cinema"), cinema};
+    return {heading(L"High definition"),
+            format(L"1080p 25", L"1920x1080"),
+            format(L"1080i 50", L"1920x1080"),
+            format(L"720p 50", L"1280x720"),
+            heading(L"Standard definition"),
+            format(L"PAL", L"720x576"),
+            format(L"NTSC", L"720x486"),
+            heading(L"Cinema"),
+            cinema};
 }
 
 void buildMenus() {
@@ -68,12 +74,13 @@ void buildMenus() {
     auto* p = new MenusPanel(args);
     p->setBorder(StandardPanel::getDefaultBorder());
     p->setTitle(UIString(L"Menus"));
-    p->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kMoveByTitle);
+    p->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kTitleBar);
     const Screen& screen = GlobManager::instance().screen();
     p->setupRootPos({40, screen.height() - 60 - p->height()});
     const unsigned short inner = static_cast<unsigned short>(p->getUserArea().width() - 2 * gap);
 
-    TitleMenuButton::InitArgs rates(UIString(L"Frame rate"), {L"23.976", L"24", L"25", L"29.97", L"50", L"59.94"}, 0, inner, static_cast<unsigned short>(row));
+    TitleMenuButton::InitArgs rates(UIString(L"Frame rate"), {L"23.976", L"24", L"25", L"29.97", L"50", L"59.94"}, 0, inner,
+                                    static_cast<unsigned short>(row));
     auto* rate = p->createWidget<TitleMenuButton>(rates, Glob::UserTopLeft(gap, gap));
     rate->setSelectedItem(MenuItemIndex(L"25"), kNoRedraw);
 
@@ -82,7 +89,8 @@ void buildMenus() {
     auto* format = p->createWidget<TitleMenuButton>(formats, Glob::Below(gap, rate));
 
     const std::vector<UIString> codecs{L"Uncompressed", L"ProRes 422", L"DNxHR HQ", L"H.264"};
-    DropDownMenuButton::InitArgs codecArgs(codecs, static_cast<unsigned short>(DropDownMenuButton::calcWidth(codecs)), static_cast<unsigned short>(row));
+    DropDownMenuButton::InitArgs codecArgs(codecs, static_cast<unsigned short>(DropDownMenuButton::calcWidth(codecs)),
+                                           static_cast<unsigned short>(row));
     auto* codec = p->createWidget<DropDownMenuButton>(codecArgs, Glob::Below(gap, format));
     codec->setDataAdaptor(Zn::Ptr<ValAdaptorBase<int>>(new ValAdaptor<int, int>(&p->compression)));
     codec->getDataAdaptor()->forceWidgetUpdate(kNoRedraw);

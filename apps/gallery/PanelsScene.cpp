@@ -63,7 +63,8 @@ void addRows(StandardPanel* page, Glob* owner, int gap, int row) {
     rows[2]->setActive(false, kNoRedraw);
     rows[0]->setContextString(L"Where the rendered file goes");
 
-    WidgetGroup::InitArgs g(L"Swatches", static_cast<unsigned short>(width), static_cast<unsigned short>(WidgetGroup::calcHeightForRows(1, 2 * row, 0)));
+    WidgetGroup::InitArgs g(L"Swatches", static_cast<unsigned short>(width),
+                            static_cast<unsigned short>(WidgetGroup::calcHeightForRows(1, 2 * row, 0)));
     auto* group = page->createWidget<WidgetGroup>(g, Glob::Below(gap, rows.back()));
     const ColourData colours[] = {ColourData(0.85, 0.2, 0.2, 0, 1.0), ColourData(40.0, 0.8, 0.95, 2, 1.0), ColourData(0.2, 0.6, 0.9, 0, 0.5),
                                   ColourData(0.3, 0.75, 0.35, 0, 1.0)};
@@ -103,7 +104,7 @@ void buildPanels() {
     auto* p = new PanelsPanel(args);
     p->setBorder(StandardPanel::getDefaultBorder());
     p->setTitle(UIString(L"Panels"));
-    p->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kMoveByTitle);
+    p->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kTitleBar);
     const Screen& screen = GlobManager::instance().screen();
     p->setupRootPos({40, screen.height() - 60 - p->height()});
 
@@ -122,8 +123,8 @@ void buildPanels() {
     GlobManager::instance().realize(p);
     Drawable::enableRedraws();
 
-    make_warn(L"Replace file", L"A file called \"Reel 3.mov\" is already in the output folder. Replace it?", {L"Replace", L"Keep both"}, {},
-              p, false);
+    make_warn(L"Replace file", L"A file called \"Reel 3.mov\" is already in the output folder. Replace it?", {L"Replace", L"Keep both"}, {}, p,
+              false);
 }
 
 GallerySceneRegistration panels("panels", "Titled rows, a group of swatches, split panes, tabs, a status line and a warning", buildPanels);

@@ -1,10 +1,10 @@
-// Parameter panels built with no widget code: the library's example list, and an
-// export description in JSON with a choice that swaps the rows under it, bounds,
-// and settings that only count when a switch is on.
+// Parameter panels built with no widget code: render settings from a list of
+// parameters, with a file row, a choice that a slider depends on, and a short
+// label; and an export description in JSON with a choice that swaps the rows
+// under it, bounds, and a setting that counts only when a switch is on.
 #include "GalleryScene.h"
 
 #include "params/HostPanel.h"
-#include "params/UIBuilderExample.h"
 #include "platform/JSON.h"
 
 namespace {
@@ -18,21 +18,56 @@ const char* kExportDescription = R"json({"params": [
   {"type": "int", "name": "scale", "legend": "Scale (%)", "min": 10, "max": 100, "default": 25, "visible if": "format=2"},
   {"type": "float", "name": "in", "legend": "In (s)", "min": 0, "max": 60, "default": 2.5, "must not be higher than": "out"},
   {"type": "float", "name": "out", "legend": "Out (s)", "min": 0, "max": 60, "default": 42, "must not be lower than": "in"},
-  {"type": "bool", "name": "burn", "legend": "Burn in the timecode", "default": true},
+  {"type": "bool", "name": "burn", "legend": "Burn in timecode", "default": true},
   {"type": "float", "name": "size", "legend": "Timecode size", "min": 0.5, "max": 3, "default": 1, "active if": "burn=true"},
-  {"type": "label", "name": "note", "legend": "Proxies are written beside the <b>media</b>, masters to the export folder."}
+  {"type": "label", "name": "note", "legend": "Kept per <b>reel</b>."}
 ]})json";
 
-void buildParamsScene() {
-    HostPanel::InitArgs example(400, 300);
-    example.params = makeUIBuilderTest2Params();
-    example.position = Glob::BottomLeft(80, 420);
-    HostPanel::make(example);
+UIBuilder::ParamList renderParams() {
+    using namespace GenericParam;
+    auto* quality = new IntParam(80, "quality", UIString(L"Quality"), UIString());
+    quality->setRange(1, 100);
+    quality->isActiveIf("codec", L"2");
+    return {
+        Zn::Ptr<iParam>(new ChoiceParam(UIString(L"Codec"), "codec", UIString(), 2,
+                                        {{UIString(L"ProRes 422 HQ"), 1}, {UIString(L"H.264"), 2}, {UIString(L"DNxHR HQ"), 3}})),
+        Zn::Ptr<iParam>(quality),
+        Zn::Ptr<iParam>(new DoubleParam(UIString(L"Audio gain (dB)"), "gain", UIString(), 0.0, -12.0, 12.0)),
+        Zn::Ptr<iParam>(new BoolParam(UIString(L"Reveal when done"), "reveal", UIString(), true)),
+        Zn::Ptr<iParam>(new LabelParam(L"Quality: H.264 only.", "note", UIString(L"Quality: H.264 only."), UIString())),
+    };
+}
 
-    HostPanel::InitArgs described(520, 420);
+// A file row is made on its own, below the rows of a list: lists leave files out.
+void addFileRow(HostPanel* panel) {
+    using namespace GenericParam;
+    Zn::Ptr<iParam> file(new FileParam(UIString(L"Output file"), "output", UIString(), L"/home/editor/Exports/Reel 3.mov", {L"*.mov", L"*.mp4"}));
+    const auto width = static_cast<unsigned short>(panel->getUserArea().width());
+    UIBuilder::createWidget(file, panel, width, 0, Glob::Below(UifStd::instance().getRowGap(), panel->getChildren().back()),
+                            WidgetSurround(2, 1, 0, 0, 0.2f, true));
+    panel->fitToRows();
+}
+
+// A host panel `width` wide with room for `rows` rows, its bottom left at `at`.
+HostPanel::InitArgs hostFor(int width, int rows, XY<int> at) {
+    const UifStd& u = UifStd::instance();
+    const XY<int> size = StandardPanel::calcPanelSize({width, rows * (u.getRowHeight() + u.getRowGap())},
+                                                      StandardPanel::kCloseBox | StandardPanel::kTitleBar, StandardPanel::getDefaultBorder());
+    HostPanel::InitArgs args(static_cast<unsigned short>(size.x), static_cast<unsigned short>(size.y));
+    args.position = Glob::BottomLeft(at.x, at.y);
+    return args;
+}
+
+void buildParamsScene() {
+    HostPanel::InitArgs listed = hostFor(400, 5, {80, 560});
+    listed.params = renderParams();
+    addFileRow(HostPanel::make(listed));
+
+    // Eleven rows, of which three alternatives share one: the builder takes three
+    // rows' height off for them.
+    HostPanel::InitArgs described = hostFor(520, 12, {560, 380});
     described.description = JSON::parse(LightweightString<char>(kExportDescription));
-    described.position = Glob::BottomLeft(560, 300);
-    HostPanel::make(described);
+    HostPanel::make(described)->fitToRows();
 }
 
 const GallerySceneRegistration registration("params", "parameter panels from a list and from a JSON description", buildParamsScene);

@@ -20,7 +20,7 @@ public:
     TickingProgInd(const wchar_t* title, XY<int> at, double step, const Colour& bar)
         : ProgInd(title, at.x, at.y, UifStd::instance().getColourScheme(), 0.0, 100.0, false), step_(step), bar_(bar) {
         showTimeRemaining(true);
-        setInterest(4096);
+        setInterest(Glob::kTimerInterest);
     }
     int handleTimerEvent() override {
         value_ += step_;
@@ -56,9 +56,10 @@ Zn::Ptr<iImage> renderFrame(int frame) {
 
 class TickingRender : public RenderProgressPanel {
 public:
-    TickingRender() : RenderProgressPanel(static_cast<unsigned short>(14 * UifStd::instance().getRowHeight()), Zn::Image::kAspect16x9,
-                                          UifStd::instance().getColourScheme().window(kShadeNormal)) {
-        setInterest(4096);
+    TickingRender()
+        : RenderProgressPanel(static_cast<unsigned short>(14 * UifStd::instance().getRowHeight()), Zn::Image::kAspect16x9,
+                              UifStd::instance().getColourScheme().window(kShadeNormal)) {
+        setInterest(Glob::kTimerInterest);
     }
     int handleTimerEvent() override {
         frame_ = (frame_ + 1) % 250;
@@ -73,7 +74,8 @@ private:
 void buildProgress() {
     const Screen& screen = GlobManager::instance().screen();
     int top = screen.height() - 60;
-    auto* copy = new TickingProgInd(L"Copying clips", {40, top - ProgInd::calcHeight()}, 0.5, UifStd::instance().getColourScheme().selection(kSelectionFocused));
+    auto* copy = new TickingProgInd(L"Copying clips", {40, top - ProgInd::calcHeight()}, 0.5,
+                                    UifStd::instance().getColourScheme().selection(kSelectionFocused));
     auto* slow = new TickingProgInd(L"Building the waveform cache", {40, top - 2 * ProgInd::calcHeight() - 30}, 0.1, Colour(0.85, 0.5, 0.15));
     auto* render = new TickingRender();
     render->setupRootPos({40 + ProgInd::kWidth + 40, top - render->height()});

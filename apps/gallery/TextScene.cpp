@@ -76,10 +76,9 @@ StandardPanel* buildNumbersAndNotes(StandardPanel* form) {
     using Adaptor = ValAdaptor<LightweightString<wchar_t>, int>;
 
     // Two views of one whole number: what is committed in either shows in both.
-    auto* percent = place<NumericTextBox>(p, NumericTextBox::InitArgs(UIString(), 90, static_cast<unsigned short>(row)),
-                                          Glob::UserTopLeft(gap, gap));
+    auto* percent = place<NumericTextBox>(p, NumericTextBox::InitArgs(UIString(), 90, static_cast<unsigned short>(row)), Glob::UserTopLeft(gap, gap));
     percent->setValueRange(0, 100);
-    percent->setAlignment(TextBoxBase::TextAlignment(TextBoxBase::TextAlignment::kRightAligned, TextBoxBase::TextAlignment::kMiddleAligned));
+    percent->setAlignment(Glib::TextAlignment(Glib::kAlignRight, Glib::kAlignMiddle));
     percent->setDisplaySuffix(L"%");
     percent->setDataAdaptor(Zn::Ptr<Adaptor>(new Adaptor(&opacity)));
     TitleTextBox::InitArgs same(UIString(L"Same value"), 90, 220, static_cast<unsigned short>(row), TitleTextBox::kLegendAgainstBox);

@@ -44,9 +44,14 @@ void buildCatalogue() {
     for (const auto& category : catalogue.categories()) {
         lines.push_back({category.empty() ? LightweightString<wchar_t>(L"(no category)") : category, true});
         for (const auto& t : catalogue.getCategoryContents(category)) {
-            LightweightString<wchar_t> text = t->getName().empty() ? L"(unreadable) " + t->getID() : t->getName();
-            text += L"  \u2014 " + LightweightString<wchar_t>(fromUTF8(std::to_string(t->getNumPhases()).c_str())) + L" phases";
-            lines.push_back({text, false});
+            if (t->getName().empty()) {
+                lines.push_back({L"(unreadable) " + t->getID(), false});
+                continue;
+            }
+            const auto phases = t->getNumPhases();
+            lines.push_back({t->getName() + L"  \u2014 " + LightweightString<wchar_t>(fromUTF8(std::to_string(phases).c_str())) +
+                                 (phases == 1 ? L" phase" : L" phases"),
+                             false});
         }
     }
     const UifStd& u = UifStd::instance();
@@ -57,7 +62,7 @@ void buildCatalogue() {
     auto* panel = new StandardPanel(args);
     panel->setBorder(StandardPanel::getDefaultBorder());
     panel->setTitle(UIString(L"Tutorials"));
-    panel->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kMoveByTitle);
+    panel->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kTitleBar);
     GlobCreationInfo view(static_cast<unsigned short>(user.x), static_cast<unsigned short>(user.y));
     view.canvas = panel->canvas();
     view.palette = panel->getPalette();

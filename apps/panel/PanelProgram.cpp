@@ -11,13 +11,16 @@
 #include "params/SliderParamHost.h"
 #include "params/TitledFileChooserButton.h"
 #include "params/TitledGlob.h"
+#include "platform/ConfigbFile.h"
 #include "platform/JSON.h"
 
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <sstream>
 
 namespace PanelProgram {
@@ -46,19 +49,27 @@ Zn::Ptr<JSON::Element> readDescription(const std::string& path, std::string& err
     return root;
 }
 
+bool readState(const std::string& path, configb& state, std::string& error) {
+    std::error_code ec;
+    if (!std::filesystem::exists(path, ec) && !ec) return true;
+    std::ifstream in(path, std::ios::binary);
+    const LightweightString<char> bytes(std::string((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>()));
+    if (!in.is_open() || in.bad()) {
+        error = "cannot read the state file " + path;
+        return false;
+    }
+    if (!ConfigbFile::isStore(bytes)) {
+        error = path + " is not a saved state of a panel; it is left as it is (give --state a new file or one it saved)";
+        return false;
+    }
+    return ConfigbFile::fromText(bytes, state);
+}
+
 XY<int> panelSizeFor(unsigned rows, int width) {
     const UifStd& std = UifStd::instance();
     const int userHeight = static_cast<int>(std::max(1u, rows)) * (std.getRowHeight() + std.getRowGap());
-    return StandardPanel::calcPanelSize(XY<int>(width, userHeight), StandardPanel::kCloseBox | StandardPanel::kMoveByTitle,
+    return StandardPanel::calcPanelSize(XY<int>(width, userHeight), StandardPanel::kCloseBox | StandardPanel::kTitleBar,
                                         StandardPanel::getDefaultBorder());
-}
-
-void fitToRows(StandardPanel* panel) {
-    const BoxInt user = panel->getUserArea();
-    int lowest = user.y1;
-    for (Glob* child : panel->getChildren())
-        if (child->isVisible()) lowest = std::min(lowest, child->getY());
-    if (lowest < user.y1) panel->resize(panel->width(), panel->height() + (user.y1 - lowest) + UifStd::instance().getRowGap());
 }
 
 namespace {
@@ -152,6 +163,8 @@ std::string valuesAsJSON(const UIBuilder::Params& params) {
 
 std::string layoutAsJSON(const StandardPanel* panel, const UIBuilder::Params& params) {
     nlohmann::ordered_json layout;
+    layout["x"] = panel->getX();
+    layout["y"] = panel->getY();
     layout["width"] = panel->width();
     layout["height"] = panel->height();
     layout["rows"] = nlohmann::ordered_json::array();

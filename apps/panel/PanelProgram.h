@@ -1,6 +1,7 @@
 #pragma once
 
 #include "params/HostPanel.h"
+#include "platform/configb.h"
 
 #include <string>
 #include <vector>
@@ -13,11 +14,14 @@ namespace PanelProgram {
 // cannot be read, is not JSON (with where), or holds no list of parameters.
 Zn::Ptr<JSON::Element> readDescription(const std::string& path, std::string& error);
 
+// Reads the saved state at `path` into `state`. A file that is not there yet is
+// the first run: true, with nothing read. False, with `error` set, for a file that
+// is there but is no saved state (a description, a text of the user's): the program
+// must leave it alone rather than save over it.
+bool readState(const std::string& path, configb& state, std::string& error);
+
 // The size of a host panel that shows `rows` rows of `width` pixels.
 XY<int> panelSizeFor(unsigned rows, int width);
-// Grows a panel whose rows run past its user area (labels of several lines, say)
-// so that every row shows.
-void fitToRows(StandardPanel* panel);
 
 // Sets a parameter from text through the control of its row, as the user's own
 // change would go: the control's range and the parameter's constraints, bounds,
@@ -27,7 +31,7 @@ bool setFromText(UIBuilder::Params& params, const std::string& id, const std::st
 
 // {"id": "value", ...} of every parameter, in row order, values as their text.
 std::string valuesAsJSON(const UIBuilder::Params& params);
-// The panel's size and each row in row order: id (empty for a heading), kind,
+// The panel's place on the screen and its size, and each row in row order: id (empty for a heading), kind,
 // x, y (from the panel's bottom left), width, height, visible, active.
 std::string layoutAsJSON(const StandardPanel* panel, const UIBuilder::Params& params);
 

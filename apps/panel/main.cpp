@@ -4,11 +4,11 @@
 #include "Version.h"
 
 #include "backend/SdlBackend.h"
+#include "core/Utf8.h"
 #include "draw/Screen.h"
 #include "glob/GlobManager.h"
 #include "params/UIBuilderExample.h"
 #include "platform/ConfigbFile.h"
-#include "core/Utf8.h"
 
 #include <cstdio>
 #include <cstring>
@@ -30,7 +30,8 @@ void usage(FILE* to) {
     std::fprintf(to,
                  "usage: mosaic-panel [FILE.json] [--state FILE] [--set ID=VALUE]... [--layout] [--screenshot FILE.png]\n"
                  "  Builds a panel from FILE.json (the example panel without one) and shows it; when it\n"
-                 "  closes, prints the values as JSON. --layout prints the built rows instead, headless.\n"
+                 "  closes, prints the values as JSON. --screenshot writes a picture of it instead of\n"
+                 "  showing it, and --layout prints the built rows instead of the values, headless.\n"
                  "Mosaic %s\n",
                  mosaicDllVersionStr());
 }
@@ -77,26 +78,35 @@ HostPanel* makePanel(const Options& o, std::string& error) {
     args.width = size.x;
     args.height = size.y;
     HostPanel* panel = HostPanel::make(args);
-    PanelProgram::fitToRows(panel);
+    panel->fitToRows();
     return panel;
 }
 
-bool restore(const Options& o, UIBuilder::Params& params) {
+// Saves over what was read, so that values of ids this panel lacks (another
+// panel's, kept in the same file) stay.
+bool save(const Options& o, const UIBuilder::Params& params, configb state) {
     if (o.state.empty()) return true;
-    configb saved;
-    // A state file that is not there yet is the first run: nothing to restore.
-    if (!ConfigbFile::load(fromUTF8(LightweightString<char>(o.state.c_str())), saved)) return true;
-    params.restoreState(saved);
-    return true;
-}
-
-bool save(const Options& o, const UIBuilder::Params& params) {
-    if (o.state.empty()) return true;
-    configb state;
-    params.saveState(state);
+    configb own;
+    params.saveState(own);
+    for (const auto& [id, entry] : own.entries()) state.set(id, entry);
     if (ConfigbFile::save(state, fromUTF8(LightweightString<char>(o.state.c_str())))) return true;
     std::fprintf(stderr, "mosaic-panel: cannot write the state to %s\n", o.state.c_str());
     return false;
+}
+
+// Runs the panel in a window until it closes; without a display, says so and returns.
+bool runInWindow() {
+    if (!SdlBackend::displayAvailable()) {
+        std::fprintf(stderr, "mosaic-panel: no display; printing the values as built (use --screenshot FILE.png to see the panel)\n");
+        return true;
+    }
+    SdlBackend window;
+    if (!window.open("Mosaic panel")) {
+        std::fprintf(stderr, "mosaic-panel: cannot open a window (%s); use --screenshot FILE.png\n", SdlBackend::lastError());
+        return false;
+    }
+    window.run(true);
+    return true;
 }
 
 } // namespace
@@ -110,6 +120,11 @@ int main(int argc, char** argv) {
     if (!parse(argc, argv, o)) return 2;
 
     std::string error;
+    configb saved;
+    if (!o.state.empty() && !PanelProgram::readState(o.state, saved, error)) {
+        std::fprintf(stderr, "mosaic-panel: %s\n", error.c_str());
+        return 2;
+    }
     HostPanel* panel = makePanel(o, error);
     if (!panel) {
         std::fprintf(stderr, "mosaic-panel: %s\n", error.c_str());
@@ -117,7 +132,7 @@ int main(int argc, char** argv) {
     }
     // The panel dies with its window; the values stay with the set.
     Zn::Ptr<UIBuilder::Params> params = panel->params();
-    restore(o, *params);
+    params->restoreState(saved);
     for (const auto& [id, value] : o.settings) {
         if (!PanelProgram::setFromText(*params, id, value, error)) {
             std::fprintf(stderr, "mosaic-panel: --set %s=%s: %s\n", id.c_str(), value.c_str(), error.c_str());
@@ -127,25 +142,12 @@ int main(int argc, char** argv) {
     GlobManager& gm = GlobManager::instance();
     gm.runUntilIdle();
 
-    if (o.layout) {
-        std::printf("%s\n", PanelProgram::layoutAsJSON(panel, *params).c_str());
-        return save(o, *params) ? 0 : 1;
+    if (!o.screenshot.empty() && !gm.screen().writePNG(o.screenshot.c_str())) {
+        std::fprintf(stderr, "mosaic-panel: cannot write %s\n", o.screenshot.c_str());
+        return 1;
     }
-    if (!o.screenshot.empty()) {
-        if (!gm.screen().writePNG(o.screenshot.c_str())) {
-            std::fprintf(stderr, "mosaic-panel: cannot write %s\n", o.screenshot.c_str());
-            return 1;
-        }
-    } else if (SdlBackend::displayAvailable()) {
-        SdlBackend window;
-        if (!window.open("Mosaic panel")) {
-            std::fprintf(stderr, "mosaic-panel: cannot open a window (%s); use --screenshot FILE.png\n", SdlBackend::lastError());
-            return 1;
-        }
-        window.run(true);
-    } else {
-        std::fprintf(stderr, "mosaic-panel: no display; printing the values as built (use --screenshot FILE.png to see the panel)\n");
-    }
-    std::printf("%s\n", PanelProgram::valuesAsJSON(*params).c_str());
-    return save(o, *params) ? 0 : 1;
+    if (!o.layout && o.screenshot.empty() && !runInWindow()) return 1;
+    const std::string out = o.layout ? PanelProgram::layoutAsJSON(panel, *params) : PanelProgram::valuesAsJSON(*params);
+    std::printf("%s\n", out.c_str());
+    return save(o, *params, saved) ? 0 : 1;
 }

@@ -26,7 +26,7 @@ LightweightString<wchar_t> makeFolder(int count, int phases) {
             phase->message.target = L"Timeline";
             phase->message.relativity = kAbove;
             phase->action.event = "click";
-            phase->action.modifiers = Tutorial::Action::kShift;
+            phase->action.modifiers = Modifiers::Shift;
             phase->pause = 0.5f;
             t.addPhase(phase);
         }

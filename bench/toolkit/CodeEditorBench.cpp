@@ -13,7 +13,8 @@ namespace {
 
 LightweightString<wchar_t> jsonLines(int n) {
     std::wstring s = L"[\n";
-    for (int i = 0; i < n; ++i) s += L"    { \"type\": \"int\", \"name\": \"p" + std::to_wstring(i) + L"\", \"default\": " + std::to_wstring(i) + L" },\n";
+    for (int i = 0; i < n; ++i)
+        s += L"    { \"type\": \"int\", \"name\": \"p" + std::to_wstring(i) + L"\", \"default\": " + std::to_wstring(i) + L" },\n";
     return LightweightString<wchar_t>(s + L"]");
 }
 

@@ -37,8 +37,8 @@ void countRows(benchmark::State& state, const std::vector<LightweightString<wcha
     std::size_t i = 0;
     for (auto _ : state) {
         const auto& row = rows[i++ % rows.size()];
-        unsigned short n = viaLayout ? WordWrappingTextRenderer(row, font, width).numLines()
-                                     : WordWrappingTextRenderer::calcNumDisplayLines(row, width, font);
+        unsigned short n =
+            viaLayout ? WordWrappingTextRenderer(row, font, width).numLines() : WordWrappingTextRenderer::calcNumDisplayLines(row, width, font);
         benchmark::DoNotOptimize(n);
     }
     state.SetItemsProcessed(state.iterations());

@@ -1,12 +1,15 @@
 #pragma once
 
+#include "controls/Button.h"
+#include "glob/Border.h"
+
 // Styles a titled drop-down widget after creation: no border of its own, the
 // flat style on both style words of its inner button, and no frame.
 template <class T>
 T* applyStyleTo(T* widget) {
     if (!widget) return widget;
-    widget->setBorderStyle(static_cast<decltype(widget->getBorder().type())>(0));
-    widget->button()->setStyle(1, 1);
+    widget->setBorderStyle(Border::kNoBorder);
+    widget->button()->setStyle(Button::kFlat, Button::kFlat);
     widget->setFrame(false);
     return widget;
 }

@@ -47,8 +47,7 @@ int LogItemField::drawField(CellContext& ctx) {
     BoxInt box = ctx.box;
     box.x1 += static_cast<unsigned short>(row->indent * UifStd::instance().getRowHeight()) + TableColumnDescription::textMargin();
     if (HTMLRenderer::isHTML(text)) {
-        if (ctx.draw)
-            HTMLRenderer::render(ctx.canvas, HTMLRenderer::parse(text, ctx.palette), box, rowHeight(ctx), HTMLRenderer::Alignment(0, 1));
+        if (ctx.draw) HTMLRenderer::render(ctx.canvas, HTMLRenderer::parse(text, ctx.palette), box, rowHeight(ctx), HTMLRenderer::kLeftTop);
     } else if (row->numLines < 2) {
         drawLine(ctx, box, text);
     } else if (ctx.draw) {
@@ -96,7 +95,7 @@ bool LogItemField::handleEvent(const CellContext& ctx, const Event& e) {
     return true;
 }
 
-int LogItemField::contextCursor(const CellContext& ctx, const XY<int>&) {
+MouseCursorID LogItemField::contextCursor(const CellContext& ctx, const XY<int>&) {
     const LoggedItem* row = rowOf(ctx);
-    return row && row->type == LoggerBase::otHyperLink ? kCellCursorLink : kCellCursorDefault;
+    return row && row->type == LoggerBase::otHyperLink ? kCursorHand : kCursorArrow;
 }

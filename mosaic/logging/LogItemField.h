@@ -20,7 +20,7 @@ public:
     // mouse event on a row is taken.
     bool handleEvent(const CellContext& ctx, const Event& e) override;
     // The link cursor on a link row, the default on any other.
-    int contextCursor(const CellContext& ctx, const XY<int>& p) override;
+    MouseCursorID contextCursor(const CellContext& ctx, const XY<int>& p) override;
 
 private:
     const LoggedItem* rowOf(const CellContext& ctx) const;

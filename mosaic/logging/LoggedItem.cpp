@@ -2,8 +2,7 @@
 
 #include "tasks/HyperLink.h"
 
-LoggedItem::LoggedItem(const LightweightString<wchar_t>& t, const Colour& ink, const Colour& back, const Glib::FontDesc& f,
-                       LoggerBase::eOutputType k)
+LoggedItem::LoggedItem(const LightweightString<wchar_t>& t, const Colour& ink, const Colour& back, const Glib::FontDesc& f, LoggerBase::eOutputType k)
     : LoggerBase::Item(t, k, 0), textColour(ink), backColour(back), font(f) {}
 
 Colour LoggedItem::textColourFor(LoggerBase::eOutputType type, const Palette& palette) {

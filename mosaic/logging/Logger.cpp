@@ -57,7 +57,7 @@ LightweightString<wchar_t> withTime(ResId text, long seconds) {
 } // namespace
 
 Logger::InitArgs::InitArgs(unsigned short rows, unsigned short w, unsigned int f) : flags(f), numRows(rows) {
-    border = Border(0, 0, 15);
+    border = Border(Border::kNoBorder, 0, 15);
     width = w ? w : 30 * rowHeight();
     height = getInitialHeight(rows, f);
 }
@@ -92,8 +92,10 @@ Logger::~Logger() {
 }
 
 void Logger::applyFlags() {
+    // The panel has a title, and its height counts a title bar (getInitialHeight).
+    addStandardWidgets(kTitleBar);
     if (!(flags_ & kNoCloseBox)) addStandardWidgets(kCloseBox);
-    if (!(flags_ & kNoTitleBar)) addStandardWidgets(kMoveByTitle);
+    if (!(flags_ & kNoResizeGrip)) addStandardWidgets(kResizeGrip);
     if (flags_ & kNotResizable) setResizable(false);
 }
 
@@ -121,13 +123,14 @@ void Logger::makeTable(unsigned short numRows) {
     addChild(table_, UserTopLeft(0, 0), WidgetSurround());
     table_->hideTextEntryBox(true);
     table_->setHighlightCurrentRow(false);
-    table_->registerFieldEditor(static_cast<DBFieldTypes::eType>(kLogItemFieldType), Zn::Ptr<iCellEditor>(new LogItemField(&items_)));
+    table_->registerFieldEditor(DBFieldTypes::kLogItem, Zn::Ptr<iCellEditor>(new LogItemField(&items_)));
 }
 
 void Logger::makeGauge() {
     guards_.push_back(log_->registerInterest(makeDeferredCallback(this, &Logger::handleLogProgress), iTaskLog::kProgressInterest));
     int indent = UifStd::instance().getIndentWidth();
-    Gauge::InitArgs a(static_cast<unsigned short>(std::max(1, std::abs(getUserArea().width()) - 2 * indent)), static_cast<unsigned short>(rowHeight()));
+    Gauge::InitArgs a(static_cast<unsigned short>(std::max(1, std::abs(getUserArea().width()) - 2 * indent)),
+                      static_cast<unsigned short>(rowHeight()));
     a.canvas = canvas();
     a.palette = getPalette();
     gauge_ = new Gauge(a);
@@ -163,7 +166,7 @@ unsigned short Logger::getInitialHeight(unsigned short numRows, unsigned int fla
         if (h != 0) h += 2 * UifStd::instance().getWidgetGap();
         h += rowHeight();
     }
-    return static_cast<unsigned short>(StandardPanel::calcPanelSize(XY<int>(0, h), kMoveByTitle, StandardPanel::getDefaultBorder()).y);
+    return static_cast<unsigned short>(StandardPanel::calcPanelSize(XY<int>(0, h), kTitleBar, StandardPanel::getDefaultBorder()).y);
 }
 
 // Rows come in from the top of a table that shows blank rows below them: with fast

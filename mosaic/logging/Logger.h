@@ -32,7 +32,7 @@ public:
         kRevealLastRow = 0x08,
         kNoHeader = 0x10,
         kNoCloseBox = 0x20,
-        kNoTitleBar = 0x40,
+        kNoResizeGrip = 0x40,
         kNotResizable = 0x80,
         kProgressOnly = 0x100,
     };
@@ -48,15 +48,13 @@ public:
         unsigned short numRows;
         std::vector<PushButton::InitArgs> buttons;
         // kBottomLeft lays the buttons out from the left; anything else from the right.
-        eCoordinateOrigin buttonOrigin = kRightCentre;
+        eCoordinateOrigin buttonOrigin = kBottomRight;
     };
 
     // The notice names the panel posts to itself.
     static constexpr const char* kRepaintMsg = "loggerRepaint";
     // What dieTarget hears when the panel goes.
     static constexpr const char* kDiedMsg = "logger_died";
-    // The field kind of every row, for the table's LogItemField.
-    static constexpr int kLogItemFieldType = 117;
 
     explicit Logger(const InitArgs& args);
     ~Logger() override;
@@ -102,7 +100,7 @@ public:
     std::vector<TableColumnDescription> getColumnDefinitions() override;
     unsigned getSize() override { return static_cast<unsigned>(items_.size()); }
     LightweightString<wchar_t> getFieldText(const XY<int>& cell) override;
-    DBFieldTypes::eType getFieldType(const XY<int>&) override { return static_cast<DBFieldTypes::eType>(kLogItemFieldType); }
+    DBFieldTypes::eType getFieldType(const XY<int>&) override { return DBFieldTypes::kLogItem; }
     void getFieldColours(const XY<int>& cell, Palette& palette) override;
     int getTextStyle(const XY<int>& cell) override;
     Glib::FontDesc getFont(const XY<int>& cell) override;
@@ -154,7 +152,7 @@ private:
     std::vector<Zn::Ptr<Zn::Guard>> guards_;
     unsigned int flags_ = 0;
     bool repaintPosted_ = false;
-    XY<int> pressedAt_{-1234, -1234};
+    XY<int> pressedAt_{kUnset, kUnset};
     bool dragged_ = false;
     LightweightString<wchar_t> empty_;
 };
@@ -175,7 +173,7 @@ void logger_display_progress(Logger* logger, double fraction);
 // Makes and realizes a logger on a log of its own: centred when x is negative,
 // else with its bottom left at (x, y). `filename` is not used: such a logger never
 // saves itself.
-Logger* make_logger(LightweightString<wchar_t> title, bool flag1, LightweightString<wchar_t> filename, bool showProgress,
-                    unsigned short numRows, unsigned short width, int x, int y);
+Logger* make_logger(LightweightString<wchar_t> title, bool flag1, LightweightString<wchar_t> filename, bool showProgress, unsigned short numRows,
+                    unsigned short width, int x, int y);
 // True when `g` is a live logger; safe on a dangling pointer.
 bool is_good_logger_ptr(const Glob* g);

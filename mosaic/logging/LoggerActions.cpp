@@ -27,10 +27,8 @@
 namespace {
 
 constexpr ResId kCopyText = 303, kOpenText = 304, kRevealText = 305, kSaveToFileText = 306, kSavedTitle = 309;
-constexpr MenuItemType kLinkMenuStyle = static_cast<MenuItemType>(5);
 
-WidgetCallback menuAction(Logger* logger, int (Logger::*method)(const NotifyMsg&), bool alwaysDefer,
-                          const LightweightString<char>& message) {
+WidgetCallback menuAction(Logger* logger, int (Logger::*method)(const NotifyMsg&), bool alwaysDefer, const LightweightString<char>& message) {
     Zn::Ptr<iCallbackBase<int, NotifyMsg>> call(new MethodCallback<Logger, NotifyMsg, int>(logger, method));
     auto* deferred = new UIThreadCallback<NotifyMsg>(call, alwaysDefer);
     Zn::Ptr<iCallbackBase<int, NotifyMsg>> result(deferred);
@@ -38,9 +36,7 @@ WidgetCallback menuAction(Logger* logger, int (Logger::*method)(const NotifyMsg&
     return WidgetCallback(result, message);
 }
 
-std::vector<LightweightString<wchar_t>> pathsOf(const NotifyMsg& msg) {
-    return Zn::splitIf(fromUTF8(msg.name()), L',', Zn::kSplitSkipEmpty);
-}
+std::vector<LightweightString<wchar_t>> pathsOf(const NotifyMsg& msg) { return Zn::splitIf(fromUTF8(msg.name()), L',', Zn::kSplitSkipEmpty); }
 
 } // namespace
 
@@ -74,9 +70,10 @@ void Logger::reviewMenu(const Event* e) {
                 for (const auto& target : link.getTargets()) list += (list.empty() ? L"" : L",") + target;
                 LightweightString<char> message = toUTF8(list);
                 setMenuTitle(UIString(stripPath(link.getDescription())));
-                addMenuItem(MenuItem(UIString(resourceStrW(kCopyText)), menuAction(this, &Logger::copyToClipboard, false, message), kLinkMenuStyle));
-                addMenuItem(MenuItem(UIString(resourceStrW(kOpenText)), menuAction(this, &Logger::openFile, false, message), kLinkMenuStyle));
-                addMenuItem(MenuItem(UIString(resourceStrW(kRevealText)), menuAction(this, &Logger::revealInOS, false, message), kLinkMenuStyle));
+                addMenuItem(
+                    MenuItem(UIString(resourceStrW(kCopyText)), menuAction(this, &Logger::copyToClipboard, false, message), kMenuItemCommand));
+                addMenuItem(MenuItem(UIString(resourceStrW(kOpenText)), menuAction(this, &Logger::openFile, false, message), kMenuItemCommand));
+                addMenuItem(MenuItem(UIString(resourceStrW(kRevealText)), menuAction(this, &Logger::revealInOS, false, message), kMenuItemCommand));
             }
         }
     }
@@ -112,12 +109,12 @@ int Logger::handleMouseClickEvent(const XY<int>& cell, const Event& e) {
     }
     if (mouse_up_event(e)) {
         bool ended = dragged_;
-        pressedAt_ = {-1234, -1234};
+        pressedAt_ = {kUnset, kUnset};
         dragged_ = false;
         return ended ? 1 : 0;
     }
     const LoggedItem* row = rowAt(cell.y);
-    if (!row || row->type != otHyperLink || !mouse_move_event(e) || pressedAt_.x == -1234 || dragged_) return 0;
+    if (!row || row->type != otHyperLink || !mouse_move_event(e) || pressedAt_.x == kUnset || dragged_) return 0;
     LoggerBase::HyperLink link = LoggerBase::HyperLink::fromString(row->text);
     // A "|" marks a target that cannot stand as a file of its own.
     if (link.empty() || link.getTargets().front().find(L'|') != LightweightString<wchar_t>::npos) return 0;
@@ -146,10 +143,10 @@ int Logger::saveToFile(const NotifyMsg&) {
     Drawable::disableRedraws();
     InitArgs a(1, 0, 0);
     a.border = StandardPanel::getDefaultBorder();
-    a.flags = kNoTitleBar | kNoHeader;
+    a.flags = kNoResizeGrip | kNoHeader;
     a.title = UIString(resourceStrW(kSavedTitle));
     a.palette = getPalette();
-    a.width = StandardPanel::calcPanelSize(XY<int>(TableColumnDescription::calcSizeFor(path), 0), kCloseBox | kMoveByTitle, a.border).x;
+    a.width = StandardPanel::calcPanelSize(XY<int>(TableColumnDescription::calcSizeFor(path), 0), kCloseBox | kTitleBar, a.border).x;
     a.taskLog = Zn::Ptr<iTaskLog>(new TaskLog);
     a.taskLog->write(path, otHyperLink);
     XY<int> at(getX() + width() / 2 - a.width / 2, getY() + height() / 2 - a.height / 2);

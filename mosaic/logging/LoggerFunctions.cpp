@@ -39,12 +39,12 @@ void writeFormatted(Logger* logger, LoggerBase::eOutputType type, const char* fo
 
 bool is_good_logger_ptr(const Glob* g) { return is_good_glob_ptr(g) && std::strcmp(g->idstring(), "logger") == 0; }
 
-#define LOGGER_FORMATTED(name, type)                                                                                                       \
-    void name(Logger* logger, const char* format, ...) {                                                                                   \
-        va_list args;                                                                                                                      \
-        va_start(args, format);                                                                                                            \
-        writeFormatted(logger, type, format, args);                                                                                        \
-        va_end(args);                                                                                                                      \
+#define LOGGER_FORMATTED(name, type)                                                                                                                 \
+    void name(Logger* logger, const char* format, ...) {                                                                                             \
+        va_list args;                                                                                                                                \
+        va_start(args, format);                                                                                                                      \
+        writeFormatted(logger, type, format, args);                                                                                                  \
+        va_end(args);                                                                                                                                \
     }
 
 LOGGER_FORMATTED(logger_write, LoggerBase::otNormal)
@@ -76,5 +76,5 @@ Logger* make_logger(LightweightString<wchar_t> title, bool flag1, LightweightStr
     // Added after the height was computed: the gauge's row is not counted.
     if (flag1) a.flags |= Logger::kMadeByFunction;
     if (showProgress) a.flags |= Logger::kShowProgress;
-    return makeTopLevel<Logger>(a, x < 0 ? Glob::Centre(0, 0, kAlignEnd) : Glob::BottomLeft(x, y));
+    return makeTopLevel<Logger>(a, x < 0 ? Glob::Centre(0, 0, kAlignCentre) : Glob::BottomLeft(x, y));
 }

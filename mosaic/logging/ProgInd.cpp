@@ -34,7 +34,7 @@ ProgInd::ProgInd(const LightweightString<wchar_t>& title, int x, int y, const Pa
 }
 
 int ProgInd::calcHeight() {
-    BoxInt user = StandardPanel::getUserArea(kMoveByTitle, {200, 200}, getDefaultBorder());
+    BoxInt user = StandardPanel::getUserArea(kTitleBar, {200, 200}, getDefaultBorder());
     return 200 - std::abs(user.height()) + UifStd::instance().getRowHeight();
 }
 
@@ -43,9 +43,10 @@ void ProgInd::init(const LightweightString<wchar_t>& title, bool poll, double mi
     setBorder(getDefaultBorder());
     setTitle(title.empty() ? UIString(ProgressTime::kWorkingTitle) : UIString(title), UifStd::instance().getTitleFont(), kNoRedraw);
     const Palette& p = getPalette();
-    Gauge::InitArgs args(static_cast<unsigned short>(std::abs(getUserArea().width())), static_cast<unsigned short>(UifStd::instance().getRowHeight()));
+    Gauge::InitArgs args(static_cast<unsigned short>(std::abs(getUserArea().width())),
+                         static_cast<unsigned short>(UifStd::instance().getRowHeight()));
     // The user area is one row high, so centring in it fills it.
-    m_gauge = createWidget<Gauge>(args, UserCentre(0, 0), WidgetSurround(1, 15, 0, 0, 0.2f, false));
+    m_gauge = createWidget<Gauge>(args, UserBottomLeft(0, 0), WidgetSurround(1, 15, 0, 0, 0.2f, false));
     m_gauge->setCols(p.selection(kSelectionFocused), p.childWindow(kChildList));
     m_gauge->setMeasure(0.0);
     m_gauge->setMessageColour(p.text(kTextNormal));
@@ -109,6 +110,4 @@ LightweightString<wchar_t> ProgInd::timeLeftSuffix(std::uint32_t now, double fra
     return L"  (" + ProgressTime::durationText(ProgressTime::kTimeLeft, shown) + L")";
 }
 
-void ProgInd::handleProgressUpdate(const ProgressSnapshot& snapshot) {
-    update_progress(snapshot.text, snapshot.fraction * m_range + m_min);
-}
+void ProgInd::handleProgressUpdate(const ProgressSnapshot& snapshot) { update_progress(snapshot.text, snapshot.fraction * m_range + m_min); }

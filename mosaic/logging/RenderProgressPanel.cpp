@@ -52,7 +52,7 @@ RenderProgressPanel* RenderProgressPanel::make(Zn::Image::AspectRatio ratio) {
     auto* p = new RenderProgressPanel(static_cast<unsigned short>(width), ratio, UifStd::instance().getColourScheme().window(kShadeNormal));
     p->setupRootPos(at);
     GlobManager::instance().realize(p);
-    p->reshapeAndDraw({-1234, -1234});
+    p->reshapeAndDraw({kUnset, kUnset});
     return p;
 }
 
@@ -63,7 +63,7 @@ XY<int> RenderProgressPanel::calcImageSize(int width, Zn::Image::AspectRatio rat
 }
 
 int RenderProgressPanel::calcHeightFromWidth(int width, Zn::Image::AspectRatio ratio) {
-    return calcPanelSize({width, contentHeight(calcImageSize(width, ratio).y)}, kMoveByTitle, getDefaultBorder()).y;
+    return calcPanelSize({width, contentHeight(calcImageSize(width, ratio).y)}, kTitleBar, getDefaultBorder()).y;
 }
 
 BoxInt RenderProgressPanel::getAreaForImage() const {

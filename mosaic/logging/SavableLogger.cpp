@@ -37,7 +37,7 @@ SavableLogger* SavableLogger::show(const Zn::Ptr<iTaskLog>& log) {
     if (!log) return nullptr;
     InitArgs a(50, 0, 0);
     a.taskLog = log;
-    return makeTopLevel<SavableLogger>(a, Glob::Centre(0, 0, kAlignEnd));
+    return makeTopLevel<SavableLogger>(a, Glob::Centre(0, 0, kAlignCentre));
 }
 
 int SavableLogger::handleMessageEvent(const LightweightString<char>& message, Glob* sender) {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "iValueChangeHandler.h"
 #include "core/NotifyMsg.h"
 #include "core/iCallbackBase.h"
+#include "iValueChangeHandler.h"
 
 // Tells a parameter set that one of its parameters changed, by the parameter's id
 // alone: a listener reads the value from the parameter itself.

@@ -24,6 +24,10 @@ public:
     static HostPanel* make(const InitArgs& args);
 
     const Zn::Ptr<UIBuilder::Params>& params() const { return params_; }
+    // Grows the window, its bottom left staying put, so that rows that run past
+    // its user area (a label of several lines, a row added below the built ones)
+    // show whole.
+    void fitToRows();
 
 private:
     Zn::Ptr<UIBuilder::Params> params_;

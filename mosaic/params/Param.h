@@ -1,8 +1,8 @@
 #pragma once
 
 #include "ParamBase.h"
-#include "core/NormalisedRGB.h"
 #include "core/MethodCallback.h"
+#include "core/NormalisedRGB.h"
 #include "value/DataConvert.h"
 #include "value/ValServer.h"
 
@@ -16,7 +16,8 @@ namespace GenericParam {
 template <class T>
 class Param : public ValManagerBase<T>, public ParamBase {
 public:
-    Param(const T& value, const LightweightString<char>& id, const UIString& legend, const UIString& tooltip, const LightweightString<char>& valueType)
+    Param(const T& value, const LightweightString<char>& id, const UIString& legend, const UIString& tooltip,
+          const LightweightString<char>& valueType)
         : ParamBase(id, valueType, legend, tooltip), server_(value), defaultValue_(value) {
         init();
     }

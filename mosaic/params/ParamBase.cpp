@@ -8,10 +8,9 @@ ParamBase::ParamBase(const LightweightString<char>& id, const LightweightString<
     : valueType_(valueType), id_(id), legend_(legend), tooltip_(tooltip) {}
 
 ParamBase::ParamBase(const ParamBase& other)
-    : Zn::InternalRefCount(), valueType_(other.valueType_), id_(other.id_), legend_(other.legend_), tooltip_(other.tooltip_),
-      active_(other.active_), changeHandlers_(other.changeHandlers_), valueConstraints_(other.valueConstraints_),
-      presentationHints_(other.presentationHints_), lessThan_(other.lessThan_), greaterThan_(other.greaterThan_),
-      visibleIf_(other.visibleIf_) {
+    : Zn::InternalRefCount(), valueType_(other.valueType_), id_(other.id_), legend_(other.legend_), tooltip_(other.tooltip_), active_(other.active_),
+      changeHandlers_(other.changeHandlers_), valueConstraints_(other.valueConstraints_), presentationHints_(other.presentationHints_),
+      lessThan_(other.lessThan_), greaterThan_(other.greaterThan_), visibleIf_(other.visibleIf_) {
     // The vector shares its storage when copied; a clone's conditions are its own.
     for (const auto& condition : other.activeIf_) activeIf_.push_back(condition);
 }

@@ -55,13 +55,20 @@ UIBuilder::UIBuilder(const ParamList& params, StandardPanel* panel) : panel_(pan
             const Zn::Ptr<iParam> clone = source->clone();
             using namespace GenericParam;
             // FontParam, FileParam and ColourParam rows are made only by createWidgetForParam.
-            if (Zn::dynamicCast<DoubleParam>(clone)) makeFloatWidget(clone, position, surround);
-            else if (Zn::dynamicCast<BoolParam>(clone)) makeBoolWidget(clone, position, surround);
-            else if (Zn::dynamicCast<TextParam>(clone)) makeTextWidget(clone, position, surround);
-            else if (Zn::dynamicCast<ChoiceParam>(clone)) makeChoiceWidget(clone, position, surround);
-            else if (Zn::dynamicCast<LabelParam>(clone)) makeLabelWidget(clone, position, surround);
-            else if (Zn::dynamicCast<IntParam>(clone)) makeIntWidget(clone, position, surround);
-            else if (Zn::dynamicCast<ActionParam>(clone)) makeActionWidget(clone, position, surround);
+            if (Zn::dynamicCast<DoubleParam>(clone))
+                makeFloatWidget(clone, position, surround);
+            else if (Zn::dynamicCast<BoolParam>(clone))
+                makeBoolWidget(clone, position, surround);
+            else if (Zn::dynamicCast<TextParam>(clone))
+                makeTextWidget(clone, position, surround);
+            else if (Zn::dynamicCast<ChoiceParam>(clone))
+                makeChoiceWidget(clone, position, surround);
+            else if (Zn::dynamicCast<LabelParam>(clone))
+                makeLabelWidget(clone, position, surround);
+            else if (Zn::dynamicCast<IntParam>(clone))
+                makeIntWidget(clone, position, surround);
+            else if (Zn::dynamicCast<ActionParam>(clone))
+                makeActionWidget(clone, position, surround);
         }
         wireParams(params);
         enforceConstraints();
@@ -71,9 +78,13 @@ UIBuilder::UIBuilder(const ParamList& params, StandardPanel* panel) : panel_(pan
 }
 
 // Rows are not painted one by one as they are made: what they asked for is dropped,
-// and a panel already on the screen is painted once, whole.
+// and a panel already on the screen is painted once, whole. What other globs asked
+// for stands.
 void UIBuilder::endBuild() {
-    Drawable::clearPendingRedraws();
+    Drawable::clearPendingRedraws([this](const Drawable& d) {
+        const auto* g = dynamic_cast<const Glob*>(&d);
+        return g && (g == panel_ || isParentedTo(g, panel_));
+    });
     Drawable::enableRedraws();
     if (panel_ && GlobManager::instance().isRealized(getRootParent(panel_))) panel_->redraw();
 }
@@ -89,7 +100,8 @@ void UIBuilder::wireParams(const ParamList& params) {
         const Zn::AttribValuePair& visibleIf = own->getVisibleIf();
         if (!visibleIf.name().empty() || !visibleIf.value().empty())
             if (Zn::Ptr<iParam> watched = findParam(visibleIf.name()))
-                watched->addChangeHandler(Zn::Ptr<GenericParam::iValueChangeHandler>(new VisibilityConstraint(widgetFor(id), fromUTF8(visibleIf.value()))));
+                watched->addChangeHandler(
+                    Zn::Ptr<GenericParam::iValueChangeHandler>(new VisibilityConstraint(widgetFor(id), fromUTF8(visibleIf.value()))));
         Zn::Ptr<iParam> clone = findParam(id);
         if (!clone) continue;
         if (!own->getGreaterThan().empty())
@@ -116,7 +128,7 @@ Zn::Ptr<UIBuilder::Params> UIBuilder::build(const ParamList& params, StandardPan
         if (!row || !action) continue;
         const WidgetCallback callback(runAction, LightweightString<char>(), action);
         if (actionsOnMenu) {
-            if (panel) panel->addMenuItem(MenuItem(action->getLegend(), callback), row->isActive());
+            if (panel) panel->addMenuItem(MenuItem(action->getLegend(), callback, kMenuItemCommand), row->isActive());
         } else if (auto* titled = dynamic_cast<TitledGlob<Button>*>(row)) {
             titled->control()->setCallback(callback);
         }

@@ -63,8 +63,8 @@ public:
     static ResId getTooltip(const ElementPtr& element);
     // One row on its own, `width` wide; a legendWidth of 0 measures this one legend.
     // Null for a parameter of no known class.
-    static Glob* createWidget(const Zn::Ptr<GenericParam::iParam>& param, StandardPanel* panel, unsigned short width,
-                              unsigned short legendWidth, const WidgetPosition& position, const WidgetSurround& surround);
+    static Glob* createWidget(const Zn::Ptr<GenericParam::iParam>& param, StandardPanel* panel, unsigned short width, unsigned short legendWidth,
+                              const WidgetPosition& position, const WidgetSurround& surround);
 
     // Reads the panel's row width; a builder without a panel stays empty.
     void init();
@@ -126,7 +126,8 @@ private:
     T* createRow(typename T::InitArgs& args, const WidgetPosition& position, const WidgetSurround& surround);
     // What every maker does last: tooltip, activity, record and tab stops (null ones skipped).
     void finishRow(const Zn::Ptr<GenericParam::iParam>& param, Glob* row, eRedrawFlag activeFlag, std::initializer_list<TabOrderable*> stops = {});
-    Glob* makeSliderRow(const Zn::Ptr<GenericParam::iParam>& param, const SliderRow& row, const WidgetPosition& position, const WidgetSurround& surround);
+    Glob* makeSliderRow(const Zn::Ptr<GenericParam::iParam>& param, const SliderRow& row, const WidgetPosition& position,
+                        const WidgetSurround& surround);
     Glob* makeHeading(const ElementPtr& element, const WidgetPosition& position, const WidgetSurround& surround);
     Glob* makeRowForElement(const ElementPtr& element, const WidgetPosition& position, const WidgetSurround& surround);
     Glob* widgetFor(const LightweightString<char>& id) const;

@@ -77,8 +77,9 @@ Glob* UIBuilder::makeFontWidget(const Zn::Ptr<iParam>& param, const WidgetPositi
     auto adaptor = adaptorOn<RemappingValAdaptor<unsigned int, LightweightString<wchar_t>>>(p);
     // Font families in an order that ignores case, as a user reads a list of names.
     auto lessNoCase = [](const LightweightString<char>& a, const LightweightString<char>& b) {
-        return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
-                                            [](char x, char y) { return std::tolower(static_cast<unsigned char>(x)) < std::tolower(static_cast<unsigned char>(y)); });
+        return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
+            return std::tolower(static_cast<unsigned char>(x)) < std::tolower(static_cast<unsigned char>(y));
+        });
     };
     std::set<LightweightString<char>, decltype(lessNoCase)> fonts(lessNoCase);
     for (const auto& name : Glib::getAvailableFonts()) fonts.insert(name);
@@ -129,8 +130,8 @@ Glob* UIBuilder::makeLabelWidget(const Zn::Ptr<iParam>& param, const WidgetPosit
     const auto paragraphs = HTMLRenderer::parse(text, UifStd::instance().getColourScheme());
     // Measured at the width the box wraps at, inside its margins, so that no line is left out.
     const int lines = HTMLRenderer::calcNumDisplayLines(paragraphs, static_cast<unsigned short>(MultiLineTextBox::calcWrapWidth(width_)));
-    LinkAwareMultiLineTextBox::InitArgs args(UIString(), width_,
-                                             static_cast<unsigned short>(MultiLineTextBox::calcHeightForLines(lines, getDefaultFontSize(), widgetGap())));
+    LinkAwareMultiLineTextBox::InitArgs args(
+        UIString(), width_, static_cast<unsigned short>(MultiLineTextBox::calcHeightForLines(lines, getDefaultFontSize(), widgetGap())));
     auto* row = createRow<LinkAwareMultiLineTextBox>(args, position, surround);
     row->setEditable(false);
     row->setString(text, kNoRedraw);
@@ -183,19 +184,21 @@ Glob* UIBuilder::makeIntWidget(const Zn::Ptr<iParam>& param, const WidgetPositio
     return makeSliderRow(param, sliderRowOf(dynamic_cast<Param<int>&>(*param), false), position, surround);
 }
 
-Glob* UIBuilder::makeSliderRow(const Zn::Ptr<iParam>& param, const SliderRow& numbers, const WidgetPosition& position, const WidgetSurround& surround) {
+Glob* UIBuilder::makeSliderRow(const Zn::Ptr<iParam>& param, const SliderRow& numbers, const WidgetPosition& position,
+                               const WidgetSurround& surround) {
     const bool isFloat = numbers.isFloat;
     const bool hideBox = isFloat && (param->getPresentationHints() & 2) != 0;
     const int h = rowHeight(), g = widgetGap(), indent = UifStd::instance().getIndentWidth();
     const int titledWidth = hideBox ? width_ : width_ - 2 * h - g;
 
     SliderParamHost::InitArgs hostArgs(width_, static_cast<unsigned short>(h));
-    hostArgs.border = Border(0, 0, 15);
+    hostArgs.border = Border(Border::kNoBorder, 0, 15);
     auto* host = createRow<SliderParamHost>(hostArgs, position, surround);
 
     const Palette& palette = panel_->getPalette();
-    TitledGlob<Slider>::InitArgs titledArgs(param->getLegend(), Slider::InitArgs(palette.subheadingText(), static_cast<unsigned short>(std::max(0, titledWidth - legendWidth_))),
-                                            static_cast<unsigned short>(std::max(0, titledWidth)), static_cast<unsigned short>(h));
+    TitledGlob<Slider>::InitArgs titledArgs(
+        param->getLegend(), Slider::InitArgs(palette.subheadingText(), static_cast<unsigned short>(std::max(0, titledWidth - legendWidth_))),
+        static_cast<unsigned short>(std::max(0, titledWidth)), static_cast<unsigned short>(h));
     auto* titled = host->createWidget<TitledGlob<Slider>>(titledArgs, Glob::UserTopLeft(0, 0));
     host->titled = titled;
     Slider* slider = titled->control();
@@ -211,10 +214,10 @@ Glob* UIBuilder::makeSliderRow(const Zn::Ptr<iParam>& param, const SliderRow& nu
     if (!hideBox) {
         NumericTextBox::InitArgs boxArgs(UIString(LightweightString<wchar_t>()), static_cast<unsigned short>(2 * h),
                                          static_cast<unsigned short>(std::min(h, TextBox::calcHeight())));
-        box = host->createWidget<NumericTextBox>(boxArgs, Glob::RightCentre(indent, 0, kAlignEnd), WidgetSurround(1, 15, 0, 0, 0.2f, false));
+        box = host->createWidget<NumericTextBox>(boxArgs, Glob::RightCentre(indent, 0, kAlignCentre), WidgetSurround(1, 15, 0, 0, 0.2f, false));
         box->setEditable(true);
         box->setPalette(makeChildPalette(palette));
-        box->setAlignment(TextBoxBase::TextAlignment(2, 1));
+        box->setAlignment(Glib::TextAlignment(Glib::kAlignCentreH, Glib::kAlignTop));
         if (numbers.min != numbers.max) box->setValueRange(numbers.min, numbers.max);
     }
     numbers.bind(slider, box);

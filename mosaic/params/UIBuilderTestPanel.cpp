@@ -2,8 +2,8 @@
 
 #include "controls/CodeEditor.h"
 #include "controls/PushButton.h"
-#include "glob/makeTopLevel.h"
 #include "glob/UifStd.h"
+#include "glob/makeTopLevel.h"
 #include "platform/CommandRegistrar.h"
 #include "platform/JSON.h"
 
@@ -20,7 +20,7 @@ const CommandRegistrar command("makeUIBuilderTestPanel", [](const Zn::Ptr<iObjec
 
 UIBuilderTestPanel::UIBuilderTestPanel(const InitArgs& args) : StandardPanel(args) {
     setBorder(getDefaultBorder());
-    addStandardWidgets(kCloseBox | kMoveByTitle | kResizeGrip);
+    addStandardWidgets(kCloseBox | kTitleBar | kDoItButton);
     setTitle(UIString(L"UIBuilder Test Panel"), UifStd::instance().getTitleFont(), kNoRedraw);
     const UifStd& u = UifStd::instance();
     PushButton::InitArgs buttonArgs(UIString(L"Build"), WidgetCallback(doItMsg), 0, static_cast<unsigned short>(u.getRowHeight()));
@@ -32,9 +32,7 @@ UIBuilderTestPanel::UIBuilderTestPanel(const InitArgs& args) : StandardPanel(arg
     editor_ = createWidget<CodeEditor>(editorArgs, Glob::UserTopLeft(0, 0));
 }
 
-UIBuilderTestPanel* UIBuilderTestPanel::make() {
-    return makeTopLevel<UIBuilderTestPanel>(InitArgs(800, 600), Glob::Centre(0, 0));
-}
+UIBuilderTestPanel* UIBuilderTestPanel::make() { return makeTopLevel<UIBuilderTestPanel>(InitArgs(800, 600), Glob::Centre(0, 0)); }
 
 int UIBuilderTestPanel::handleMessageEvent(const LightweightString<char>& message, Glob* sender) {
     if (message == doItMsg) {
@@ -49,8 +47,8 @@ void UIBuilderTestPanel::build() {
     Zn::Ptr<JSON::Element> description = JSON::parse(editor_->getText());
     if (!description) return;
     HostPanel::InitArgs args(400, 300);
-    args.border = Border(0, 0, 15);
+    args.border = Border(Border::kNoBorder, 0, 15);
     args.description = description;
-    args.position = Glob::RightOf(10, this, kAlignEnd);
+    args.position = Glob::RightOf(10, this, kAlignCentre);
     host_.reset(HostPanel::make(args));
 }

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "AttribValuePair.h"
-#include "iValueChangeHandler.h"
-#include "iValueConstraint.h"
 #include "core/Ptr.h"
 #include "core/UIString.h"
+#include "iValueChangeHandler.h"
+#include "iValueConstraint.h"
 
 namespace GenericParam {
 

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr unsigned kModifierOrder[] = {Tutorial::Action::kShift, Tutorial::Action::kCtrl, Tutorial::Action::kCmd, Tutorial::Action::kAlt};
+constexpr unsigned kModifierOrder[] = {Modifiers::Shift, Modifiers::Control, Modifiers::Cmd, Modifiers::Alt};
 
 // The first numeric attribute of that name, as the file's single-precision number.
 bool numberOf(const JSON::Element& e, const char* name, double& out) {
@@ -80,10 +80,10 @@ int Tutorial::Message::read(const Zn::Ptr<JSON::Element>& e) {
 
 LightweightString<char> Tutorial::Action::asString(unsigned int bit) {
     switch (bit) {
-    case kShift: return "shift";
-    case kCtrl: return "ctrl";
-    case kCmd: return "cmd";
-    case kAlt: return "alt";
+    case Modifiers::Shift: return "shift";
+    case Modifiers::Control: return "ctrl";
+    case Modifiers::Cmd: return "cmd";
+    case Modifiers::Alt: return "alt";
     default: return {};
     }
 }
@@ -139,7 +139,8 @@ int Tutorial::Phase::read(const Zn::Ptr<JSON::Element>& e) {
 Tutorial::Tutorial(const LightweightString<wchar_t>& path) { load(path); }
 
 Tutorial::Tutorial(const Tutorial& other)
-    : Zn::InternalRefCount(), JSON::iPersistable(), name_(other.name_), category_(other.category_), path_(other.path_), components_(other.components_) {
+    : Zn::InternalRefCount(), JSON::iPersistable(), name_(other.name_), category_(other.category_), path_(other.path_),
+      components_(other.components_) {
     for (const Zn::Ptr<Phase>& p : other.phases_) phases_.push_back(Zn::Ptr<Phase>(new Phase(*p)));
 }
 
@@ -154,7 +155,7 @@ void Tutorial::save(const LightweightString<wchar_t>& path) {
     JSON::Builder builder(2);
     write(builder);
     builder.printTo(file, 3, 0);
-    file.save(LightweightString<wchar_t>(), TextFile::eEOLStyle(1));
+    file.save(LightweightString<wchar_t>(), TextFile::kLF);
 }
 
 void Tutorial::write(JSON::Builder& b) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/KeyCodes.h"
 #include "core/LightweightString.h"
 #include "core/Ptr.h"
 #include "core/XY.h"
@@ -45,7 +46,7 @@ public:
         LightweightString<wchar_t> text;
         eCoordinateOrigin origin = kSiblingRelative;
         LightweightString<wchar_t> target;
-        eWidgetRelativity relativity = kNoRelativity;
+        eWidgetRelativity relativity = kBelow;
 
         bool valid() const { return !text.empty(); }
         void write(JSON::Builder& b) const override;
@@ -55,8 +56,8 @@ public:
     // What the phase waits for: an event's name and the modifier keys held.
     class Action : public JSON::iPersistable {
     public:
-        enum Modifier : unsigned { kShift = 0x1000000, kCtrl = 0x2000000, kCmd = 0x100000, kAlt = 0x4000000 };
         LightweightString<char> event;
+        // Bits of Modifiers, as key codes carry them.
         unsigned modifiers = 0;
 
         bool valid() const { return !event.empty(); }

@@ -30,7 +30,8 @@ TEST_F(Scenes, EverySceneBuildsAPaintedPanelAndClosesCleanly) {
         Glob* root = GlobManager::instance().roots().front();
         std::uint32_t desktop = TestKit::screenPixel(2, 2);
         XY<int> inside = TestKit::centreOf(root);
-        EXPECT_FALSE(similar(TestKit::screenPixel(inside.x, inside.y), desktop, 0) && similar(TestKit::screenPixel(root->getX() + 1, root->getY() + 1), desktop, 0))
+        EXPECT_FALSE(similar(TestKit::screenPixel(inside.x, inside.y), desktop, 0) &&
+                     similar(TestKit::screenPixel(root->getX() + 1, root->getY() + 1), desktop, 0))
             << "the panel shows on the screen";
         TestKit::reset();
         EXPECT_TRUE(GlobManager::instance().roots().empty());

@@ -4,6 +4,4 @@
 
 #include <regex>
 
-TEST(Version, IsFourNumbersPartedByDots) {
-    EXPECT_TRUE(std::regex_match(mosaicDllVersionStr(), std::regex(R"(\d+\.\d+\.\d+\.\d+)")));
-}
+TEST(Version, IsFourNumbersPartedByDots) { EXPECT_TRUE(std::regex_match(mosaicDllVersionStr(), std::regex(R"(\d+\.\d+\.\d+\.\d+)"))); }

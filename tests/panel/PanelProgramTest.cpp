@@ -37,7 +37,7 @@ protected:
         args.width = size.x;
         args.height = size.y;
         HostPanel* panel = HostPanel::make(args);
-        PanelProgram::fitToRows(panel);
+        panel->fitToRows();
         TestKit::pump();
         return panel;
     }

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # mosaic-panel end to end, headless: values and layout as JSON, --set through the
-# panel's rules, a state kept between runs, and bad descriptions refused with status 2.
+# panel's rules, a state kept between runs (and no other file written over), and
+# bad descriptions refused with status 2.
 set -u
 bin=$1
 work=$(mktemp -d)
@@ -32,6 +33,23 @@ echo "$layout" | grep -q '"rows"' || fail "the layout lists rows"
 [ -s "$work/state.json" ] || fail "the state was saved"
 out=$("$bin" "$work/d.json" --state "$work/state.json" 2>/dev/null)
 echo "$out" | grep -q '"name": "kept"' || fail "the state was restored: $out"
+
+echo '{"params": [{"type": "bool", "name": "loop", "legend": "Loop"}]}' > "$work/other.json"
+"$bin" "$work/other.json" --state "$work/state.json" --set loop=true >/dev/null 2>&1 || fail "another panel on the same state"
+grep -q '"loop"' "$work/state.json" || fail "the other panel's value is saved"
+out=$("$bin" "$work/d.json" --state "$work/state.json" 2>/dev/null)
+echo "$out" | grep -q '"name": "kept"' || fail "beside the values of the first, which stay: $out"
+ls "$work" | grep -q tmp && fail "no temporary file of the saves is left behind: $(ls "$work")"
+# Only a saved state is ever written over: a description or a text given to
+# --state by mistake is refused and kept byte for byte.
+echo "notes of the day" > "$work/notes.txt"
+for kept in d.json notes.txt; do
+  cp "$work/$kept" "$work/before"
+  "$bin" "$work/d.json" --state "$work/$kept" --set name=lost >/dev/null 2>"$work/err"
+  [ $? -eq 2 ] || fail "--state $kept that is no saved state exits 2"
+  grep -q 'is not a saved state' "$work/err" || fail "and says why: $(cat "$work/err")"
+  cmp -s "$work/$kept" "$work/before" || fail "$kept is left as it was"
+done
 
 out=$("$bin" 2>/dev/null) || fail "the example panel exits 0"
 echo "$out" | grep -q '"choice": "1"' || fail "the example's values: $out"

@@ -36,8 +36,7 @@ std::string typesOf(const XClientMessageEvent& enter) {
     int format = 0;
     unsigned long count = 0, after = 0;
     unsigned char* list = nullptr;
-    XGetWindowProperty(dpy, static_cast<Window>(enter.data.l[0]), atom("XdndTypeList"), 0, 64, False, XA_ATOM, &type, &format, &count,
-                       &after, &list);
+    XGetWindowProperty(dpy, static_cast<Window>(enter.data.l[0]), atom("XdndTypeList"), 0, 64, False, XA_ATOM, &type, &format, &count, &after, &list);
     for (unsigned long i = 0; list && i < count; ++i) add(reinterpret_cast<Atom*>(list)[i]);
     if (list) XFree(list);
     return out;

@@ -13,13 +13,16 @@
 #include <SDL.h>
 
 #include <chrono>
+#include <iterator>
+#include <type_traits>
 
 struct SdlBackend::Impl {
     SDL_Window* window = nullptr;
     SDL_Renderer* renderer = nullptr;
     SDL_Texture* texture = nullptr;
     int texW = 0, texH = 0;
-    SDL_Cursor* cursors[9] = {};
+    // By MouseCursorID, from kCursorArrow on.
+    SDL_Cursor* cursors[kCursorEyeDropper - kCursorArrow + 1] = {};
     MouseCursorID cursor = kCursorArrow;
     std::unique_ptr<XdndDragSource> fileDrag;
     std::chrono::steady_clock::time_point nextTick = std::chrono::steady_clock::now();
@@ -46,9 +49,12 @@ int mapKey(SDL_Keycode k) {
     case SDLK_DELETE: return Keys::Delete;
     default: break;
     }
-    if (k >= SDLK_F1 && k <= SDLK_F12) return Keys::F1 + (k - SDLK_F1);
-    // Printable keys: SDL names them by their Unicode value.
-    return (k & SDLK_SCANCODE_MASK) ? 0 : static_cast<int>(k);
+    if (k >= SDLK_F1 && k <= SDLK_F10) return Keys::F1 + (k - SDLK_F1);
+    if (k == SDLK_F11) return Keys::F11;
+    if (k == SDLK_F12) return Keys::F12;
+    // Printable keys: SDL names them by their Unicode value, letters in lower case.
+    if (k >= SDLK_a && k <= SDLK_z) return static_cast<int>(k - SDLK_a + 'A');
+    return (k & SDLK_SCANCODE_MASK) || k >= Keys::CharacterLimit ? 0 : static_cast<int>(k);
 }
 
 unsigned mapModifiers(Uint16 m) {
@@ -56,7 +62,7 @@ unsigned mapModifiers(Uint16 m) {
     if (m & KMOD_SHIFT) r |= Modifiers::Shift;
     if (m & KMOD_CTRL) r |= Modifiers::Control;
     if (m & KMOD_ALT) r |= Modifiers::Alt;
-    if (m & KMOD_GUI) r |= Modifiers::Meta;
+    if (m & KMOD_GUI) r |= Modifiers::Cmd;
     return r;
 }
 
@@ -76,12 +82,12 @@ SdlBackend::SdlBackend() : impl_(std::make_unique<Impl>()) {}
 void SdlBackend::installSystemClipboard() {
     // Text copied in the editor reaches other programs, and theirs reaches text boxes.
     OS()->installClipboard([](const LightweightString<wchar_t>& text) { SDL_SetClipboardText(toUTF8(text).c_str()); },
-                          [] {
-                              char* text = SDL_GetClipboardText();
-                              LightweightString<wchar_t> out = fromUTF8(text ? text : "");
-                              SDL_free(text);
-                              return out;
-                          });
+                           [] {
+                               char* text = SDL_GetClipboardText();
+                               LightweightString<wchar_t> out = fromUTF8(text ? text : "");
+                               SDL_free(text);
+                               return out;
+                           });
 }
 
 void SdlBackend::installFileDrag() {
@@ -121,18 +127,21 @@ bool SdlBackend::open(const char* title) {
     if (impl_->window) return true;
     if (SDL_Init(SDL_INIT_VIDEO) != 0) return false;
     Screen& screen = GlobManager::instance().screen();
-    impl_->window = SDL_CreateWindow(title, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, screen.width(), screen.height(),
-                                     SDL_WINDOW_RESIZABLE);
+    impl_->window = SDL_CreateWindow(title, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, screen.width(), screen.height(), SDL_WINDOW_RESIZABLE);
     if (!impl_->window) {
         SDL_Quit();
         return false;
     }
     impl_->renderer = SDL_CreateRenderer(impl_->window, -1, 0);
     if (!impl_->renderer) impl_->renderer = SDL_CreateRenderer(impl_->window, -1, SDL_RENDERER_SOFTWARE);
-    static const SDL_SystemCursor shapes[9] = {SDL_SYSTEM_CURSOR_ARROW,  SDL_SYSTEM_CURSOR_IBEAM,  SDL_SYSTEM_CURSOR_HAND,
-                                               SDL_SYSTEM_CURSOR_CROSSHAIR, SDL_SYSTEM_CURSOR_SIZEALL, SDL_SYSTEM_CURSOR_SIZEWE,
-                                               SDL_SYSTEM_CURSOR_SIZENS, SDL_SYSTEM_CURSOR_WAIT,  SDL_SYSTEM_CURSOR_NO};
-    for (int i = 0; i < 9; ++i) impl_->cursors[i] = SDL_CreateSystemCursor(shapes[i]);
+    // SDL has no cursors of its own for dragging a marker or picking a colour: a
+    // hand and a crosshair stand in.
+    static const SDL_SystemCursor shapes[] = {SDL_SYSTEM_CURSOR_ARROW,   SDL_SYSTEM_CURSOR_IBEAM,    SDL_SYSTEM_CURSOR_CROSSHAIR,
+                                              SDL_SYSTEM_CURSOR_SIZEALL, SDL_SYSTEM_CURSOR_HAND,     SDL_SYSTEM_CURSOR_HAND,
+                                              SDL_SYSTEM_CURSOR_SIZEWE,  SDL_SYSTEM_CURSOR_SIZENS,   SDL_SYSTEM_CURSOR_WAIT,
+                                              SDL_SYSTEM_CURSOR_NO,      SDL_SYSTEM_CURSOR_CROSSHAIR};
+    static_assert(std::size(shapes) == std::extent_v<decltype(Impl::cursors)>);
+    for (std::size_t i = 0; i < std::size(shapes); ++i) impl_->cursors[i] = SDL_CreateSystemCursor(shapes[i]);
     SDL_StartTextInput();
     installSystemClipboard();
     installFileDrag();
@@ -191,9 +200,9 @@ void SdlBackend::handle(const void* raw) {
 void SdlBackend::updateCursor() {
     Glob* hover = GlobManager::instance().input().hover();
     MouseCursorID id = hover ? hover->contextCursor(hover->screenXYToGlobXY(GlobManager::instance().input().mousePos())) : kCursorArrow;
-    if (id == impl_->cursor || id < 0 || id > 8) return;
+    if (id == impl_->cursor || id < kCursorArrow || id > kCursorEyeDropper) return;
     impl_->cursor = id;
-    if (impl_->cursors[id]) SDL_SetCursor(impl_->cursors[id]);
+    if (SDL_Cursor* c = impl_->cursors[id - kCursorArrow]) SDL_SetCursor(c);
 }
 
 void SdlBackend::present() {
@@ -220,12 +229,13 @@ void SdlBackend::runOnce(int waitMs) {
         while (SDL_PollEvent(&e)) handle(&e);
     }
     GlobManager& gm = GlobManager::instance();
-    gm.processPending();
     auto now = std::chrono::steady_clock::now();
     if (now >= impl_->nextTick) {
         gm.tickTimers();
         impl_->nextTick = now + std::chrono::milliseconds(gm.timerPeriodMs());
     }
+    // After the ticks, so that what they changed is painted before it is shown.
+    gm.processPending();
     updateCursor();
     present();
 }

@@ -24,9 +24,8 @@ constexpr auto kReplyTimeout = std::chrono::seconds(3);
 constexpr int kIdleCheckMs = 1000;
 
 enum AtomName { kAware, kProxy, kEnter, kPosition, kStatus, kLeave, kDrop, kFinished, kSelection, kActionCopy, kUriList, kTargets, kAtomCount };
-const char* kAtomNames[kAtomCount] = {"XdndAware",     "XdndProxy",     "XdndEnter",      "XdndPosition",
-                                      "XdndStatus",    "XdndLeave",     "XdndDrop",       "XdndFinished",
-                                      "XdndSelection", "XdndActionCopy", "text/uri-list", "TARGETS"};
+const char* kAtomNames[kAtomCount] = {"XdndAware", "XdndProxy",    "XdndEnter",     "XdndPosition",   "XdndStatus",    "XdndLeave",
+                                      "XdndDrop",  "XdndFinished", "XdndSelection", "XdndActionCopy", "text/uri-list", "TARGETS"};
 
 // Errors during a drag come from windows that vanish under it, a target that quits:
 // no fault of ours, and SDL's own handler would end the program.
@@ -43,9 +42,8 @@ bool unreserved(unsigned char c) { return letter(c) || (c >= '0' && c <= '9') ||
 bool isUri(const std::string& s) {
     std::size_t colon = s.find(':');
     if (colon == std::string::npos || colon < 2 || !letter(static_cast<unsigned char>(s[0]))) return false;
-    return std::all_of(s.begin(), s.begin() + static_cast<long>(colon), [](char c) {
-        return c == '+' || (unreserved(static_cast<unsigned char>(c)) && c != '_' && c != '~');
-    });
+    return std::all_of(s.begin(), s.begin() + static_cast<long>(colon),
+                       [](char c) { return c == '+' || (unreserved(static_cast<unsigned char>(c)) && c != '_' && c != '~'); });
 }
 
 } // namespace
@@ -82,8 +80,7 @@ struct XdndDragSource::Session {
     using Clock = std::chrono::steady_clock;
 
     Session(const XdndDragSource& o, std::string list)
-        : owner(o), dpy(o.display_), data(std::move(list)), refused(XCreateFontCursor(dpy, XC_circle)),
-          accepting(XCreateFontCursor(dpy, XC_hand2)) {}
+        : owner(o), dpy(o.display_), data(std::move(list)), refused(XCreateFontCursor(dpy, XC_circle)), accepting(XCreateFontCursor(dpy, XC_hand2)) {}
     ~Session() {
         if (XGetSelectionOwner(dpy, atom(kSelection)) == owner.source_) XSetSelectionOwner(dpy, atom(kSelection), None, CurrentTime);
         XUngrabKeyboard(dpy, CurrentTime);
@@ -117,8 +114,8 @@ struct XdndDragSource::Session {
         unsigned long count = 0, after = 0;
         unsigned char* value = nullptr;
         long result = 0;
-        if (XGetWindowProperty(dpy, w, name, 0, 1, False, type, &actual, &format, &count, &after, &value) == Success && value &&
-            actual == type && format == 32 && count == 1)
+        if (XGetWindowProperty(dpy, w, name, 0, 1, False, type, &actual, &format, &count, &after, &value) == Success && value && actual == type &&
+            format == 32 && count == 1)
             result = reinterpret_cast<long*>(value)[0];
         if (value) XFree(value);
         return result;

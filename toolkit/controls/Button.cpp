@@ -4,9 +4,7 @@
 #include "glob/UifStd.h"
 #include "glob/fireCallback.h"
 
-Button::Button(const InitArgs& args) : Clickable(args), callback_(args.callback), label_(args.label) {
-    font_ = UifStd::instance().getDefaultFont();
-}
+Button::Button(const InitArgs& args) : Clickable(args), callback_(args.callback), label_(args.label) { font_ = UifStd::instance().getDefaultFont(); }
 
 void Button::setLabel(const UIString& label, eRedrawFlag flag) {
     label_ = label;
@@ -39,7 +37,7 @@ int Button::calcHeight() { return UifStd::instance().getRowHeight(); }
 
 void Button::drawBackground() {
     Glob::drawBackground();
-    drawFace(BoxInt(0, 0, width(), height()), style_ == 1, latched_);
+    drawFace(BoxInt(0, 0, width(), height()), style_ == kFlat, latched_);
     drawLabel(label_, labelBox());
 }
 

@@ -24,8 +24,9 @@ public:
     const UIString& getLabel() const { return label_; }
     void setCallback(const WidgetCallback& callback) { callback_ = callback; }
     const WidgetCallback& getCallback() const { return callback_; }
-    // Two style words: 1 in the first is a flat button that shows its face only
-    // when hovered or pressed; the second is kept for the caller.
+    // The first style word: kFlat shows the face only when hovered or pressed.
+    enum eStyle { kRaised = 0, kFlat = 1 };
+    // Two style words: an eStyle, and a second word kept for the caller.
     void setStyle(int style, int style2 = 0);
     int getStyle() const { return style_; }
     int getStyle2() const { return style2_; }

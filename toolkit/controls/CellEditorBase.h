@@ -1,8 +1,8 @@
 #pragma once
 
-#include "iCellEditor.h"
 #include "glob/Glob.h"
 #include "glob/Messaging.h"
+#include "iCellEditor.h"
 
 // The part of a cell editor that edits with one widget of type W: it keeps the
 // widget by stamp, so a widget that its table has deleted is never touched, and a
@@ -42,7 +42,7 @@ public:
         return w->react(e) != 0;
     }
     bool isResponsibleForMessage(const LightweightString<char>&, Glob* sender) const override { return sender && sender == live(); }
-    int contextCursor(const CellContext&, const XY<int>&) override { return kCellCursorDefault; }
+    MouseCursorID contextCursor(const CellContext&, const XY<int>&) override { return kCursorArrow; }
     UIString contextString(const CellContext&) override { return {}; }
 
 protected:

@@ -28,7 +28,8 @@ int Clickable::react(const Event& e) {
         return 1;
     }
     if (e.type() == Event::kKeyPress) {
-        if (e.keyCode() == Keys::Space || e.keyCode() == Keys::Return || e.keyCode() == Keys::KeypadEnter) {
+        const int key = Keys::plain(e.keyCode());
+        if (key == Keys::Space || key == Keys::Return || key == Keys::KeypadEnter) {
             clicked();
             return 1;
         }

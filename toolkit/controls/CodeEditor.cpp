@@ -175,9 +175,7 @@ bool CodeEditor::moveCaretVertically(int lines, bool extend) {
     std::size_t caret = getCursorPosition();
     if (caret != goalCaret_) goalX_ = caretRect(caret).x;
     int target = lineOf(caret) + lines;
-    std::size_t index = target < 0             ? 0
-                        : target >= numLines() ? getString().size()
-                                               : lineStart(target) + lineLayout(target).indexAt({goalX_, 0});
+    std::size_t index = target < 0 ? 0 : target >= numLines() ? getString().size() : lineStart(target) + lineLayout(target).indexAt({goalX_, 0});
     moveCaret(index, extend);
     goalCaret_ = getCursorPosition();
     return true;
@@ -215,15 +213,14 @@ void CodeEditor::insertTab() {
 int CodeEditor::handleKeyboardEvent(int keyCode) {
     if (!isEditable() || !isActive()) return 0;
     const unsigned mods = keyModifiers();
-    switch (keyCode) {
+    const int key = Keys::plain(keyCode);
+    switch (key) {
     case Keys::Tab:
-        if (mods & (Modifiers::Shift | Modifiers::Control | Modifiers::Alt | Modifiers::Meta)) return 0;
+        if (mods & Modifiers::All) return 0;
         insertTab();
         return 1;
     case Keys::PageUp:
-    case Keys::PageDown:
-        moveCaretVertically(keyCode == Keys::PageUp ? -linesPerPage() : linesPerPage(), mods & Modifiers::Shift);
-        return 1;
+    case Keys::PageDown: moveCaretVertically(key == Keys::PageUp ? -linesPerPage() : linesPerPage(), mods & Modifiers::Shift); return 1;
     case Keys::Escape:
         // Going back to the text as it was when the focus came would throw away a
         // whole session of editing; undo is the way back here.

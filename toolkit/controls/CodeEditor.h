@@ -24,8 +24,7 @@ public:
     struct InitArgs : GlobCreationInfo {
         LightweightString<wchar_t> text;
         InitArgs() = default;
-        InitArgs(const LightweightString<wchar_t>& t, unsigned short width, unsigned short height)
-            : GlobCreationInfo(width, height), text(t) {}
+        InitArgs(const LightweightString<wchar_t>& t, unsigned short width, unsigned short height) : GlobCreationInfo(width, height), text(t) {}
     };
 
     static constexpr int kTabWidth = 4;

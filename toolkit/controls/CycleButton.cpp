@@ -36,9 +36,7 @@ void CycleButton::setPickState(unsigned short state, eRedrawFlag flag) {
 Zn::Ptr<iHostImage> CycleButton::currentIcon() const { return state_ < icons_.size() ? icons_[state_] : Zn::Ptr<iHostImage>(); }
 
 // The label is kept off the face while an icon stands for the state.
-void CycleButton::showState(eRedrawFlag flag) {
-    setLabel(state_ < labels_.size() && !currentIcon() ? labels_[state_] : UIString(), flag);
-}
+void CycleButton::showState(eRedrawFlag flag) { setLabel(state_ < labels_.size() && !currentIcon() ? labels_[state_] : UIString(), flag); }
 
 void CycleButton::drawBackground() {
     Button::drawBackground();
@@ -57,11 +55,10 @@ void CycleButton::step(int by) {
     Button::clicked();
 }
 
-void CycleButton::clicked() {
-    step((clickModifiers() & Modifiers::Shift) ? -1 : 1);
-}
+void CycleButton::clicked() { step((clickModifiers() & Modifiers::Shift) ? -1 : 1); }
 
 int CycleButton::handleKey(int key) {
+    key = Keys::plain(key);
     if (key == Keys::Up) return step(-1), 1;
     if (key == Keys::Down) return step(1), 1;
     return 0;

@@ -16,5 +16,7 @@ struct DBFieldTypes {
         kPath = 8,
         kColour = 9,
         kApplication = 100,
+        // A row of a task log, painted by the log panel's own editor.
+        kLogItem = 117,
     };
 };

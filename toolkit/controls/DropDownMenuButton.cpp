@@ -44,7 +44,7 @@ DropDownMenuButton::InitArgs::InitArgs(const std::vector<MenuItem>& rows, unsign
 
 DropDownMenuButton::DropDownMenuButton(const InitArgs& args) : Button(args), items_(args.items) {
     if (args.callback.isEmpty()) setCallback(WidgetCallback(dropDownMenuButtonMsg));
-    if (args.flat) setStyle(1);
+    if (args.flat) setStyle(kFlat);
     if (height() == 0) resize(width(), calcHeight());
     selected_ = args.selected.resolve(items_);
     showSelection(kNoRedraw);
@@ -171,6 +171,7 @@ void DropDownMenuButton::clicked() {
 }
 
 int DropDownMenuButton::handleKey(int key) {
+    key = Keys::plain(key);
     if (key != Keys::Up && key != Keys::Down) return 0;
     const int dir = key == Keys::Down ? 1 : -1, n = static_cast<int>(items_.size());
     int row = rowOfChoice(selected_);
@@ -206,7 +207,9 @@ int DropDownMenuButton::calcWidth(const std::vector<MenuItem>& rows, const Glib:
 
 int DropDownMenuButton::calcWidth(const std::vector<UIString>& entries, const Glib::FontDesc& font) { return calcWidth(rowsOf(entries), font); }
 
-int DropDownMenuButton::calcWidth(const UIString& entry, const Glib::FontDesc& font) { return calcWidth(std::vector<MenuItem>{MenuItem(entry)}, font); }
+int DropDownMenuButton::calcWidth(const UIString& entry, const Glib::FontDesc& font) {
+    return calcWidth(std::vector<MenuItem>{MenuItem(entry)}, font);
+}
 
 BoxInt DropDownMenuButton::labelBox() const {
     const int gap = UifStd::instance().getWidgetGap();
@@ -225,7 +228,7 @@ void DropDownMenuButton::drawBackground() {
         face.outlineWidth = UifStd::instance().getScale();
         CanvasRenderer(canvas()).render(face);
     } else {
-        drawFace(box, getStyle() == 1);
+        drawFace(box, getStyle() == kFlat);
     }
     const Colour ink = p.text(isActive() ? kTextNormal : kTextDimmed);
     Glib::TextDescription t(labelBox(), getLabel().getString(), getFont(), ink);

@@ -1,9 +1,9 @@
 #include "FileBrowser.h"
 
 #include "glob/GlobManager.h"
-#include "glob/makeTopLevel.h"
 #include "glob/Messaging.h"
 #include "glob/UifStd.h"
+#include "glob/makeTopLevel.h"
 #include "platform/ResourceStrings.h"
 
 #include <algorithm>
@@ -32,7 +32,7 @@ std::vector<TableColumnDescription> FileBrowser::getColumnDefinitions() {
 }
 
 FileBrowser* FileBrowser::make(const FileBrowserBase::InitArgs& args, XY<int> position) {
-    const bool given = !(position == XY<int>(0, 0)) && !(position == XY<int>(-1234, -1234));
+    const bool given = !(position == XY<int>(0, 0)) && !(position == XY<int>(kUnset, kUnset));
     auto* browser = makeTopLevel<FileBrowser>(args, given ? Glob::BottomLeft(position) : Glob::Centre(0, 0));
     set_kbd_focus(browser->table());
     return browser;

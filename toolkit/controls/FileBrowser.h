@@ -11,7 +11,7 @@ public:
     explicit FileBrowser(const FileBrowserBase::InitArgs& args);
 
     // Puts the browser's bottom left at `position` on the screen, or centres it on the
-    // screen when no position is given: (0, 0), or (-1234, -1234). It is kept on the
+    // screen when no position is given: (0, 0), or (kUnset, kUnset). It is kept on the
     // screen, and the list has the keyboard focus.
     static FileBrowser* make(const FileBrowserBase::InitArgs& args, XY<int> position = {});
 

@@ -80,7 +80,7 @@ int buttonWidth(const UIString& label) { return std::max(4 * UifStd::instance().
 FileBrowserBase::FileBrowserBase(const InitArgs& args)
     : StandardPanel(StandardPanel::InitArgs(GlobCreationInfo(args, static_cast<unsigned short>(args.width > 0 ? 0 : calcSize().x),
                                                              static_cast<unsigned short>(args.height > 0 ? 0 : calcSize().y)),
-                                            Border(Border::kNone, 0, 15))) {}
+                                            Border(Border::kNoBorder, 0, 15))) {}
 
 FileBrowserBase::~FileBrowserBase() = default;
 
@@ -100,7 +100,7 @@ void FileBrowserBase::init(const InitArgs& args, int flags) {
     setBorder(getDefaultBorder());
     if (flags & kFrameFlag) {
         setTitle(args.title.empty() ? UIString(titleId) : args.title, {}, kNoRedraw);
-        addStandardWidgets(kCloseBox | kMoveByTitle | ((flags & kResizableFlag) ? kResizeGrip : 0));
+        addStandardWidgets(kCloseBox | kTitleBar | ((flags & kResizableFlag) ? kResizeGrip : 0));
     }
     const int row = UifStd::instance().getRowHeight();
     setMinSize(static_cast<unsigned short>(18 * row), static_cast<unsigned short>(10 * row));
@@ -354,8 +354,7 @@ void FileBrowserBase::activateRow(int row) {
 void FileBrowserBase::setFilterChoice(int index) {
     if (index < 0 || index >= numFilterChoices() || state_ != kBrowsing) return;
     filterChoice_ = index;
-    if (filterButton_ && filterButton_->getSelectedItem() != index)
-        filterButton_->setSelectedItem(MenuItemIndex(static_cast<unsigned short>(index)));
+    if (filterButton_ && filterButton_->getSelectedItem() != index) filterButton_->setSelectedItem(MenuItemIndex(static_cast<unsigned short>(index)));
     const FBItem* current = table_ ? listing_.item(table_->getCurPos().y) : nullptr;
     const NStr focus = current ? current->nativePath : NStr();
     listing_.setFilter(filterChoices_[static_cast<std::size_t>(index)], mode_ == kFolder);
@@ -443,8 +442,7 @@ void FileBrowserBase::deliver(const PathList& answer) {
     GlobManager::instance().removeModalGlob(this);
     if (EventHandler* owner = ownerHandler()) {
         if (chosen) sendMessageWithData(fileBrowserSelectedMsg, owner, payload, this);
-        if (!function && !callback_.message().empty() && !(chosen && name == fileBrowserSelectedMsg))
-            sendMessageWithData(name, owner, payload, this);
+        if (!function && !callback_.message().empty() && !(chosen && name == fileBrowserSelectedMsg)) sendMessageWithData(name, owner, payload, this);
     }
     // The owner's message is delivered before this one, so the owner still finds the browser.
     if (chosen)
@@ -483,7 +481,9 @@ int FileBrowserBase::getTextStyle(const XY<int>& cell) {
     return item && item->isFolder && columnKey(cell.x) == "name" ? kStyleBold : kStyleDefault;
 }
 
-std::pair<int, int> FileBrowserBase::getTextAlignment(const XY<int>& cell) { return {columnKey(cell.x) == "size" ? 1 : -1, 0}; }
+Glib::TextAlignment FileBrowserBase::getTextAlignment(const XY<int>& cell) {
+    return {columnKey(cell.x) == "size" ? Glib::kAlignRight : Glib::kAlignDefault, Glib::kAlignMiddle};
+}
 
 int FileBrowserBase::handleMouseClickEvent(const XY<int>& cell, const Event& e) {
     if (!mouse_down_event(e) || !mouse_left_event(e) || !listing_.item(cell.y)) return 0;
@@ -541,7 +541,7 @@ int FileBrowserBase::handleMessageEvent(const LightweightString<char>& message, 
 
 int FileBrowserBase::handleKeyboardEvent(int key) {
     if (state_ != kBrowsing) return 0;
-    switch (key) {
+    switch (Keys::plain(key)) {
     case Keys::Escape: cancel(); return 1;
     case Keys::Backspace: goUp(); return 1;
     case Keys::Return:

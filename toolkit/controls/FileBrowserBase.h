@@ -126,7 +126,7 @@ public:
     LightweightString<wchar_t> getFieldText(const XY<int>& cell) override;
     DBFieldTypes::eType getFieldType(const XY<int>&) override { return DBFieldTypes::kPath; }
     int getTextStyle(const XY<int>& cell) override;
-    std::pair<int, int> getTextAlignment(const XY<int>& cell) override;
+    Glib::TextAlignment getTextAlignment(const XY<int>& cell) override;
     int handleMouseClickEvent(const XY<int>& cell, const Event& e) override;
     // Sorts by the column's key; the same column again reverses the order.
     void handleHeaderClick(int col) override;

@@ -24,7 +24,10 @@ public:
     double getMeasure() const { return measure_; }
     void setMessage(const LightweightString<wchar_t>& text) { message_ = text; }
     const LightweightString<wchar_t>& getMessage() const { return message_; }
-    void setMessageColour(const Colour& c) { messageColour_ = c; hasMessageColour_ = true; }
+    void setMessageColour(const Colour& c) {
+        messageColour_ = c;
+        hasMessageColour_ = true;
+    }
     void display() { redraw(); }
     // The width of the filled part for the present measure.
     int filledWidth() const;

@@ -7,9 +7,7 @@ void ImageView::setImage(const Zn::Ptr<iImage>& image, eRedrawFlag flag) {
     if (flag == kRedraw) redraw();
 }
 
-BoxInt ImageView::imageArea() const {
-    return image_ ? image_->fittedInto(BoxInt(0, 0, width(), height())) : BoxInt();
-}
+BoxInt ImageView::imageArea() const { return image_ ? image_->fittedInto(BoxInt(0, 0, width(), height())) : BoxInt(); }
 
 void ImageView::drawBackground() {
     Glob::drawBackground();

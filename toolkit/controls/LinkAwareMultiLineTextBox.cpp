@@ -100,9 +100,7 @@ LinkAwareMultiLineTextBox::LinkAwareMultiLineTextBox(const InitArgs& args) : Mul
 
 LinkAwareMultiLineTextBox::~LinkAwareMultiLineTextBox() = default;
 
-bool LinkAwareMultiLineTextBox::showsMarkup() const {
-    return !isEditable() && !isObfuscatedDisplay() && HTMLRenderer::isHTML(getString());
-}
+bool LinkAwareMultiLineTextBox::showsMarkup() const { return !isEditable() && !isObfuscatedDisplay() && HTMLRenderer::isHTML(getString()); }
 
 const LinkAwareMultiLineTextBox::Markup& LinkAwareMultiLineTextBox::markup() const {
     const Colour ink = isActive() ? getPalette().text() : getPalette().text(kTextDimmed);
@@ -120,9 +118,7 @@ BoxInt LinkAwareMultiLineTextBox::markupClip() const {
     return BoxInt(textArea().x1, inside.y1, inside.x2, inside.y2);
 }
 
-const std::vector<LinkAwareMultiLineTextBox::Link>& LinkAwareMultiLineTextBox::getLinks() const {
-    return showsMarkup() ? markup().links : links_;
-}
+const std::vector<LinkAwareMultiLineTextBox::Link>& LinkAwareMultiLineTextBox::getLinks() const { return showsMarkup() ? markup().links : links_; }
 
 int LinkAwareMultiLineTextBox::numDisplayLines() const {
     return showsMarkup() ? static_cast<int>(markup().layout.numLines()) : MultiLineTextBox::numDisplayLines();
@@ -200,7 +196,7 @@ const LinkAwareMultiLineTextBox::Link* LinkAwareMultiLineTextBox::linkAt(XY<int>
 }
 
 bool LinkAwareMultiLineTextBox::opensOnClick(unsigned modifiers) const {
-    return isActive() && (!isEditable() || (modifiers & (Modifiers::Control | Modifiers::Meta)));
+    return isActive() && (!isEditable() || (modifiers & (Modifiers::Control | Modifiers::Cmd)));
 }
 
 int LinkAwareMultiLineTextBox::handleMouseEvent(const Event& e) {

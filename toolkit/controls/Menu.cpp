@@ -22,14 +22,14 @@ StandardPanel::InitArgs topLevel(const Menu::InitArgs& a) {
     return s;
 }
 
-bool isPrintable(int key) { return key > Keys::Space && key < Keys::Special && key != Keys::Delete; }
+bool isPrintable(int key) { return key != Keys::Space && Keys::isPrintable(key); }
 
 } // namespace
 
 Menu::Menu(const InitArgs& args)
     : StandardPanel(topLevel(args)), items_(args.items), minWidth_(args.minWidth), maxWidth_(args.maxWidth), maxHeight_(args.maxHeight) {
     setCanBeIt(false);
-    setBorder(Border(Border::kLine, static_cast<unsigned short>(std::max(1, UifStd::instance().getBorderWidth() / 2)), 15));
+    setBorder(Border(Border::kMenuBorder, static_cast<unsigned short>(std::max(1, UifStd::instance().getBorderWidth() / 2)), 15));
     if (!args.title.empty()) setTitle(args.title, {}, kNoRedraw);
     addShadow();
     if (args.marked >= 0 && args.marked < static_cast<int>(items_.size())) marked_ = args.marked;
@@ -84,8 +84,10 @@ void Menu::show(Glob* owner, XY<int> bottomLeft) {
     GlobManager& gm = GlobManager::instance();
     setLogicalParent(owner);
     setupRootPos(gm.getSafePosForGlob(canvas(), bottomLeft, size()));
-    if (highlighted_ >= 0) scrollTo(highlighted_);
-    else if (marked_ >= 0) scrollTo(marked_);
+    if (highlighted_ >= 0)
+        scrollTo(highlighted_);
+    else if (marked_ >= 0)
+        scrollTo(marked_);
     state_ = kOpen;
     gm.realize(this);
     // Modal after realizing, so that it stands above a modal panel it was opened from.
@@ -201,14 +203,13 @@ bool Menu::choose(int row) {
     return true;
 }
 
-void Menu::handleChoice(int row) {
-    fireCallback(this, items_[row].callback());
-}
+void Menu::handleChoice(int row) { fireCallback(this, items_[row].callback()); }
 
 // ---- input ------------------------------------------------------------------
 
 int Menu::handleKeyboardEvent(int key) {
     const int n = static_cast<int>(items_.size());
+    key = Keys::plain(key);
     switch (key) {
     case Keys::Escape: close(); break;
     case Keys::Return:
@@ -248,8 +249,10 @@ int Menu::handleMouseEvent(const Event& e) {
     }
     if (mouse_down_event(e) && scrolling_) {
         const BoxInt a = rowsArea();
-        if (e.pos().y >= a.y2) scrollBy(-1);
-        else if (e.pos().y < a.y1) scrollBy(1);
+        if (e.pos().y >= a.y2)
+            scrollBy(-1);
+        else if (e.pos().y < a.y1)
+            scrollBy(1);
         return 1;
     }
     if (mouse_up_event(e) && self.contains(e.pos())) choose(rowAt(e.pos()));
@@ -307,8 +310,10 @@ void Menu::paintRow(int row, const BoxInt& box) const {
     }
 
     Colour ink = item.textColour().value_or(item.isHeading() ? p.subheadingText() : p.text());
-    if (lit) ink = p.text(kTextOnSelection);
-    else if (!item.isActive() && !item.isHeading()) ink = Colour::mix(ink, rowBackground(), 0.55);
+    if (lit)
+        ink = p.text(kTextOnSelection);
+    else if (!item.isActive() && !item.isHeading())
+        ink = Colour::mix(ink, rowBackground(), 0.55);
     if (row == marked_) r.render(Glib::EllipseDescription({box.x1 + indent / 2.0, mid}, {indent / 6.0, indent / 6.0}, ink));
 
     const int sideRoom = sideWidth_ ? sideWidth_ + 2 * gap : 0;
@@ -320,7 +325,8 @@ void Menu::paintRow(int row, const BoxInt& box) const {
     r.render(label);
     if (LightweightString<wchar_t> side = item.sideText(); !side.empty()) {
         Colour sideInk = lit ? ink : Colour::mix(ink, rowBackground(), 0.3);
-        Glib::TextDescription t(BoxInt(box.x2 - gap - sideWidth_, box.y1, box.x2 - gap, box.y2), side, u.getDefaultFont(), sideInk, Glib::kAlignRight);
+        Glib::TextDescription t(BoxInt(box.x2 - gap - sideWidth_, box.y1, box.x2 - gap, box.y2), side, u.getDefaultFont(), sideInk,
+                                Glib::kAlignRight);
         r.render(t);
     }
 }

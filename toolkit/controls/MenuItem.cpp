@@ -10,8 +10,7 @@ MenuItem::MenuItem(const UIString& text, const WidgetCallback& callback, MenuIte
 MenuItem::MenuItem(const UIString& text, const WidgetCallback& callback, const Colour& textColour, MenuItemType type)
     : text_(text), callback_(callback), type_(type), textColour_(textColour) {}
 
-MenuItem::MenuItem(const UIString& text, const WidgetCallback& callback, const Colour& textColour, const Colour& background,
-                   MenuItemType type)
+MenuItem::MenuItem(const UIString& text, const WidgetCallback& callback, const Colour& textColour, const Colour& background, MenuItemType type)
     : text_(text), callback_(callback), type_(type), textColour_(textColour), background_(background) {}
 
 bool MenuItem::isGap() const { return text_.empty() && second_.empty(); }

@@ -7,9 +7,10 @@
 
 #include <optional>
 
-// What a row of a menu is. Only headings are treated apart; every other number is
-// a row that can be chosen, so callers may pass style numbers of their own through.
-enum MenuItemType : int { kMenuItemPlain = 0, kMenuItemSelectable = 1, kMenuItemHeading = 2 };
+// What a row of a menu is (NUMBERS.md). Only headings are treated apart: plain
+// rows, selectable rows and commands (the actions of a context menu) are all chosen
+// alike.
+enum MenuItemType : int { kMenuItemPlain = 0, kMenuItemSelectable = 1, kMenuItemHeading = 2, kMenuItemCommand = 5 };
 
 // One row of a menu or a drop-down: its text, a second text shown right-aligned
 // beside it (a shortcut, a size), what choosing it does, and how it looks. A row

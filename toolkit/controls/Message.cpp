@@ -40,14 +40,14 @@ Message::Message(const InitArgs& args, const std::vector<UIString>& labels, cons
     const std::vector<UIString> shown = orOk(labels);
     const UIString title = orDefaultTitle(args.title, kInformationId);
     if (args.width <= 0 || args.height <= 0) {
-        const int buttons = static_cast<int>(shown.size()) * calcButtonWidth(shown) +
-                            static_cast<int>(shown.size() - 1) * UifStd::instance().getWidgetGap();
+        const int buttons =
+            static_cast<int>(shown.size()) * calcButtonWidth(shown) + static_cast<int>(shown.size() - 1) * UifStd::instance().getWidgetGap();
         const XY<int> size = calcSize(title, text_, buttons);
         resize(args.width > 0 ? args.width : size.x, args.height > 0 ? args.height : size.y);
     }
     setBorder(getDefaultBorder());
     setTitle(title, {}, kNoRedraw);
-    addStandardWidgets(kMoveByTitle);
+    addStandardWidgets(kTitleBar);
     build(shown);
 }
 
@@ -109,7 +109,7 @@ XY<int> Message::calcSize(const UIString& title, const UIString& text, int butto
     const int textW = calcTextWidth(title, buttonsWidth);
     const Analysis a = analyse(text, textW);
     const XY<int> user(textW + 2 * UifStd::instance().getTextIndent(), a.height + marginsHeight());
-    return calcPanelSize(user, kMoveByTitle, getDefaultBorder());
+    return calcPanelSize(user, kTitleBar, getDefaultBorder());
 }
 
 int Message::textIndent() const { return UifStd::instance().getTextIndent(); }
@@ -145,12 +145,11 @@ void Message::drawBackground() {
     const BoxInt box = textBox();
     const LightweightString<wchar_t> s = text_.getString();
     if (box.isEmpty() || s.empty()) return;
-    Glib::WordWrappingTextRenderer(s, UifStd::instance().getDefaultFont(), box.width())
-        .render(canvas(), box, getPalette().text(), lineHeight());
+    Glib::WordWrappingTextRenderer(s, UifStd::instance().getDefaultFont(), box.width()).render(canvas(), box, getPalette().text(), lineHeight());
 }
 
 int Message::handleKeyboardEvent(int keyCode) {
-    switch (keyCode) {
+    switch (Keys::plain(keyCode)) {
     case Keys::Return:
     case Keys::KeypadEnter: press(0); return 1;
     case Keys::Escape: close(); return 1;

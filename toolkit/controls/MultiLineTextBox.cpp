@@ -87,8 +87,9 @@ int MultiLineTextBox::handleReturn() {
 }
 
 int MultiLineTextBox::handleKeyboardEvent(int keyCode) {
-    if ((keyCode == Keys::PageUp || keyCode == Keys::PageDown) && isEditable() && isActive()) {
-        moveCaretVertically(keyCode == Keys::PageUp ? -linesPerPage() : linesPerPage(), keyModifiers() & Modifiers::Shift);
+    const int key = Keys::plain(keyCode);
+    if ((key == Keys::PageUp || key == Keys::PageDown) && isEditable() && isActive()) {
+        moveCaretVertically(key == Keys::PageUp ? -linesPerPage() : linesPerPage(), keyModifiers() & Modifiers::Shift);
         return 1;
     }
     return TextBoxBase::handleKeyboardEvent(keyCode);

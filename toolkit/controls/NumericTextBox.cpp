@@ -33,9 +33,7 @@ std::optional<double> NumericTextBox::parse(const LightweightString<wchar_t>& te
     return value;
 }
 
-double NumericTextBox::constrained(double value) const {
-    return range_ ? DataConvert::constrain(value, range_->first, range_->second) : value;
-}
+double NumericTextBox::constrained(double value) const { return range_ ? DataConvert::constrain(value, range_->first, range_->second) : value; }
 
 double NumericTextBox::getValue() const {
     if (auto v = parse(getString())) return constrained(*v);
@@ -67,7 +65,7 @@ void NumericTextBox::step(double steps) {
 
 int NumericTextBox::handleKeyboardEvent(int keyCode) {
     if (isEditable() && isActive()) {
-        switch (keyCode) {
+        switch (Keys::plain(keyCode)) {
         case Keys::Up: step(1); return 1;
         case Keys::Down: step(-1); return 1;
         case Keys::PageUp: step(10); return 1;

@@ -2,8 +2,8 @@
 
 #include "ArrowGlyph.h"
 #include "draw/CanvasRenderer.h"
-#include "glob/Messaging.h"
 #include "glob/GlobManager.h"
+#include "glob/Messaging.h"
 #include "glob/UifStd.h"
 
 #include <algorithm>
@@ -173,7 +173,7 @@ void ScrollBar::actOn(ePart part) {
 }
 
 void ScrollBar::stopRepeating() {
-    if (interest() & 4096) clearInterest(4096);
+    if (interest() & kTimerInterest) clearInterest(Glob::kTimerInterest);
     repeatTicks_ = 0;
 }
 
@@ -204,7 +204,7 @@ int ScrollBar::react(const Event& e) {
         } else {
             actOn(pressed_);
             repeatTicks_ = 0;
-            setInterest(4096);
+            setInterest(Glob::kTimerInterest);
         }
         repaint(this);
         return 1;

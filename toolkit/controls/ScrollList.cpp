@@ -3,9 +3,9 @@
 #include "ScrollBar.h"
 #include "draw/Canvas.h"
 #include "draw/CanvasRenderer.h"
-#include "glob/fireCallback.h"
 #include "glob/GlobManager.h"
 #include "glob/UifStd.h"
+#include "glob/fireCallback.h"
 
 #include <algorithm>
 #include <cmath>
@@ -24,8 +24,8 @@ constexpr int kWheelRows = 3;
 
 ScrollList::ScrollList(const InitArgs& args)
     : StandardPanel(args), items_(args.items), selected_(args.items.size(), false),
-      lineHeight_(args.lineHeight ? args.lineHeight : static_cast<unsigned short>(UifStd::instance().getRowHeight())),
-      multi_(args.multiSelect), onSelect_(args.selectionCallback), onActivate_(args.activationCallback) {
+      lineHeight_(args.lineHeight ? args.lineHeight : static_cast<unsigned short>(UifStd::instance().getRowHeight())), multi_(args.multiSelect),
+      onSelect_(args.selectionCallback), onActivate_(args.activationCallback) {
     ScrollBar::InitArgs bar(ScrollBar::kVertical, static_cast<unsigned short>(std::max(0, getUserArea().height())));
     bar.canvas = canvas();
     bar.palette = getPalette();
@@ -281,6 +281,7 @@ int ScrollList::handleKeyboardEvent(int key) {
     unsigned mods = currentModifiers();
     int page = std::max(1, numVisibleRows() - 1);
     int from = current_ < 0 ? -1 : current_;
+    key = Keys::plain(key);
     switch (key) {
     case Keys::Up: moveTo(from < 0 ? 0 : from - 1, mods); return 1;
     case Keys::Down: moveTo(from + 1, mods); return 1;
@@ -302,7 +303,7 @@ int ScrollList::handleKeyboardEvent(int key) {
         return 0;
     default: break;
     }
-    if (key > Keys::Space && key < Keys::Special && !(mods & (Modifiers::Control | Modifiers::Alt)) && numItems() > 0) {
+    if (key != Keys::Space && Keys::isPrintable(key) && !(mods & (Modifiers::Control | Modifiers::Alt)) && numItems() > 0) {
         // Type-ahead: the next row after the current one that starts with the letter.
         wchar_t want = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(key)));
         for (int step = 1; step <= numItems(); ++step) {

@@ -64,7 +64,7 @@ int Slider::xOf(double value) const {
 void Slider::userChanges(double value, DataChangeType type) {
     double before = value_;
     setPosition(value);
-    if (value_ == before && type == kIntermediateChange) return;
+    if (value_ == before && type != kFinalChange) return;
     const IdStamp me = stamp();
     requestSetNewDataValue(value_, type);
     // A listener of the value may have deleted the slider.
@@ -76,7 +76,7 @@ int Slider::react(const Event& e) {
     if (mouse_down_event(e) && mouse_left_event(e)) {
         dragging_ = true;
         claimKbdFocus();
-        userChanges(valueAt(e.pos().x), kIntermediateChange);
+        userChanges(valueAt(e.pos().x), kChangeStart);
         return 1;
     }
     if (mouse_move_event(e) && dragging_) {
@@ -101,7 +101,7 @@ int Slider::react(const Event& e) {
 
 int Slider::handleKey(int key) {
     double step = getValueIncrement();
-    switch (key) {
+    switch (Keys::plain(key)) {
     case Keys::Left:
     case Keys::Down: userChanges(value_ - step, kFinalChange); return 1;
     case Keys::Right:
@@ -130,7 +130,8 @@ void Slider::drawBackground() {
         double x = xOf(pointOfInterest_);
         r.render(Glib::LineDescription({x, double(mid - r0)}, {x, double(mid - track)}, p.text(kTextDimmed)));
     }
-    Glib::EllipseDescription thumb({double(thumbX), double(mid)}, {double(r0), double(r0)}, isActive() ? p.window(kShadeLightest) : p.window(kShadeLight));
+    Glib::EllipseDescription thumb({double(thumbX), double(mid)}, {double(r0), double(r0)},
+                                   isActive() ? p.window(kShadeLightest) : p.window(kShadeLight));
     r.render(thumb);
     Glib::EllipseDescription ring(thumb.centre, thumb.radii, hasKbdFocus() ? p.selection(kSelectionFocused) : p.window(kShadeDarker), false);
     ring.lineWidth = hasKbdFocus() ? 2.0 : 1.0;

@@ -48,10 +48,10 @@ void StatusMessage::setMessage(const UIString& text, int timeoutMs, eRedrawFlag 
 void StatusMessage::startTimer(int timeoutMs) {
     if (timeoutMs > 0) {
         deadline_ = msecsNow() + timeoutMs;
-        setInterest(4096);
+        setInterest(Glob::kTimerInterest);
     } else {
         deadline_ = 0;
-        clearInterest(4096);
+        clearInterest(Glob::kTimerInterest);
     }
 }
 

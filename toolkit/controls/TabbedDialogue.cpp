@@ -7,9 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-TabbedDialogue::TabbedDialogue(const InitArgs& args) : StandardPanel(args), flags_(args.flags) {
-    font_ = UifStd::instance().getDefaultFont();
-}
+TabbedDialogue::TabbedDialogue(const InitArgs& args) : StandardPanel(args), flags_(args.flags) { font_ = UifStd::instance().getDefaultFont(); }
 
 int TabbedDialogue::tabHeight(unsigned int flags) {
     const int row = UifStd::instance().getRowHeight();
@@ -117,7 +115,7 @@ BoxInt TabbedDialogue::tabBox(int tab) const {
 
 BoxInt TabbedDialogue::pageBox() const {
     const BoxInt u = getUserArea();
-    const int b = calcBorderSize(flags_);
+    const int b = (flags_ & kFramedPages) ? calcBorderSize(flags_) : 0;
     BoxInt p(u.x1 + b, u.y1 + b, u.x2 - b, tabsBox().y1 - b);
     if (p.x2 < p.x1) p.x2 = p.x1;
     if (p.y2 < p.y1) p.y2 = p.y1;
@@ -175,6 +173,7 @@ void TabbedDialogue::drawBackground() {
 
 void TabbedDialogue::drawBorder() {
     StandardPanel::drawBorder();
+    if (!(flags_ & kFramedPages)) return;
     // The frame around the pages, open where the selected tab joins them.
     const Palette& p = getPalette();
     CanvasRenderer r(canvas());
@@ -215,12 +214,13 @@ bool TabbedDialogue::stepTab(unsigned modifiers) {
 }
 
 int TabbedDialogue::handleKeyboardEvent(int keyCode) {
-    if (keyCode != Keys::Tab || !(currentModifiers() & Modifiers::Control)) return 0;
+    if (!(flags_ & kKeyboardTabs) || Keys::plain(keyCode) != Keys::Tab || !(currentModifiers() & Modifiers::Control)) return 0;
     return stepTab(currentModifiers()) ? 1 : 0;
 }
 
 int TabbedDialogue::intercept(const Event& e) {
     // Ctrl+Tab belongs to the dialogue even while a control on a page has the focus.
-    if (e.type() != Event::kKeyPress || e.keyCode() != Keys::Tab || !(e.modifiers() & Modifiers::Control)) return 0;
+    if (!(flags_ & kKeyboardTabs) || e.type() != Event::kKeyPress || Keys::plain(e.keyCode()) != Keys::Tab || !(e.modifiers() & Modifiers::Control))
+        return 0;
     return stepTab(e.modifiers()) ? 1 : 0;
 }

@@ -11,22 +11,25 @@
 // A tab is added with addTab and its page with addPageForTab; the dialogue owns
 // the pages, sizes each to the page area (pageBox()) and shows only the page of
 // the selected tab. A click on a tab, or Ctrl+Tab and Ctrl+Shift+Tab anywhere in
-// the dialogue, changes the selection; a change made by the user posts
+// the dialogue (with kKeyboardTabs), changes the selection; a change made by the user posts
 // kTabChangedMsg to the owner (sendMessage, so it arrives after the page shows).
 // Tab indices out of range are ignored, never an error.
 class TabbedDialogue : public StandardPanel {
 public:
     static constexpr const char* kTabChangedMsg = "TabChanged";
-    // Flag bits of InitArgs::flags and tabHeight: tall tabs, and tabs that share
-    // the width evenly instead of each fitting its title. Other bits are ignored.
-    enum Flags : unsigned { kTallTabs = 128, kEvenTabs = 4 };
+    // Flag bits of InitArgs::flags and tabHeight (NUMBERS.md): tabs that share the
+    // width evenly instead of each fitting its title; a frame around the pages, open
+    // under the selected tab; Ctrl+Tab to change tabs; tall tabs. Other bits are ignored.
+    enum Flags : unsigned { kEvenTabs = 4, kFramedPages = 16, kKeyboardTabs = 32, kTallTabs = 128 };
+    static constexpr unsigned kStandardTabs = kFramedPages | kKeyboardTabs;
     // The look of a tab: a text.
     enum eTabWidget { kTextTab = 0 };
 
     struct InitArgs : StandardPanel::InitArgs {
-        unsigned flags = 0;
+        unsigned flags = kStandardTabs;
         InitArgs() = default;
-        InitArgs(unsigned short width, unsigned short height, unsigned flags = 0) : StandardPanel::InitArgs(width, height), flags(flags) {}
+        InitArgs(unsigned short width, unsigned short height, unsigned flags = kStandardTabs)
+            : StandardPanel::InitArgs(width, height), flags(flags) {}
     };
 
     explicit TabbedDialogue(const InitArgs& args);
@@ -34,8 +37,8 @@ public:
 
     // The height of the row of tabs for these flags.
     static int tabHeight(unsigned int flags);
-    // The frame's width around the page area.
-    static int calcBorderSize(unsigned int flags = 0);
+    // The width of the frame's line around the page area.
+    static int calcBorderSize(unsigned int flags = kStandardTabs);
     // The dialogue's height that gives a page of `contentHeight` under tabs of `tabHeight`.
     static int calcHeightForContents(unsigned short contentHeight, unsigned int tabHeight);
 

@@ -28,21 +28,11 @@ constexpr int kMaxRowHeight = 32767;
 
 int minColumnWidth() { return 2 * TableColumnDescription::textMargin() + UifStd::instance().getRowGap(); }
 
-MouseCursorID cursorFor(int code) {
-    switch (code) {
-    case iCellEditor::kCellCursorText: return kCursorIBeam;
-    case iCellEditor::kCellCursorCrosshair: return kCursorCrosshair;
-    case iCellEditor::kCellCursorMove: return kCursorMove;
-    case iCellEditor::kCellCursorLink: return kCursorHand;
-    default: return kCursorArrow;
-    }
-}
-
 } // namespace
 
 TableWidget::TableWidget(const InitArgs& args)
-    : StandardPanel(StandardPanel::InitArgs(args, Border(Border::kNone, 0, 15))), adaptor_(args.adaptor),
-      textEditor_(new WStringEditor), rowHeight_(args.rowHeight ? args.rowHeight : UifStd::instance().getRowHeight()),
+    : StandardPanel(StandardPanel::InitArgs(args, Border(Border::kNoBorder, 0, 15))), adaptor_(args.adaptor), textEditor_(new WStringEditor),
+      rowHeight_(args.rowHeight ? args.rowHeight : UifStd::instance().getRowHeight()),
       headerHeight_(args.headerLines * UifStd::instance().getRowHeight() / 2) {
     ScrollBar::InitArgs bar(ScrollBar::kVertical, static_cast<unsigned short>(std::max(0, bodyBox().height())));
     bar.canvas = canvas();
@@ -515,7 +505,7 @@ int TableWidget::handleMouseEvent(const Event& e) {
 int TableWidget::handleKeyboardEvent(int key) {
     int page = std::max(1, getLastVisibleRow() - first_);
     XY<int> to = cur_;
-    switch (key) {
+    switch (Keys::plain(key)) {
     case Keys::Up: to.y -= 1; break;
     case Keys::Down: to.y += 1; break;
     case Keys::PageUp: to.y -= page; break;
@@ -526,7 +516,7 @@ int TableWidget::handleKeyboardEvent(int key) {
     case Keys::Right: to.x += 1; break;
     case Keys::Return:
     case Keys::KeypadEnter:
-    case Keys::F1 + 1:
+    case Keys::F2:
         if (cur_.y < 0) return 0;
         if (!startEditing(cur_)) notify(cellActivatedMsg);
         return 1;
@@ -563,9 +553,8 @@ MouseCursorID TableWidget::contextCursor(const XY<int>& p) const {
     if (headerBox().contains(p)) return columnEdgeAt(p.x) >= 0 ? kCursorResizeHorizontal : kCursorArrow;
     XY<int> cell = getCellAt(p);
     if (!adaptor_ || cell.x < 0 || cell.y < 0) return StandardPanel::contextCursor(p);
-    int code = editorFor(cell)->contextCursor(makeContext(cell, getCellBox(cell)), p);
-    if (code == iCellEditor::kCellCursorDefault) code = adaptor_->contextCursor(cell);
-    return cursorFor(code);
+    MouseCursorID cursor = editorFor(cell)->contextCursor(makeContext(cell, getCellBox(cell)), p);
+    return cursor == kCursorArrow ? adaptor_->contextCursor(cell) : cursor;
 }
 
 UIString TableWidget::contextString() const {

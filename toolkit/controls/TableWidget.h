@@ -2,9 +2,9 @@
 
 #include "CellContext.h"
 #include "DBFieldTypes.h"
+#include "glob/StandardPanel.h"
 #include "iCellEditor.h"
 #include "iTableAdaptor.h"
-#include "glob/StandardPanel.h"
 
 #include <map>
 #include <vector>

@@ -33,14 +33,14 @@ XY<int> TextBox::textOrigin() const {
     if (content > a.width()) {
         // Unfocused, a long text shows its beginning.
         if (hasKbdFocus()) x -= scrollX_;
-    } else if (getAlignment().horizontal == TextAlignment::kRightAligned) {
+    } else if (getAlignment().horizontal == Glib::kAlignRight) {
         x = a.x2 - content;
-    } else if (getAlignment().horizontal == TextAlignment::kCentred) {
+    } else if (getAlignment().horizontal == Glib::kAlignCentreH) {
         x = a.x1 + (a.width() - content) / 2;
     }
     int h = l.height(), top = a.y1 + (a.height() + h) / 2;
-    if (getAlignment().vertical == TextAlignment::kTopAligned) top = a.y2;
-    if (getAlignment().vertical == TextAlignment::kBottomAligned) top = a.y1 + h;
+    if (getAlignment().vertical == Glib::kAlignTop) top = a.y2;
+    if (getAlignment().vertical == Glib::kAlignBottom) top = a.y1 + h;
     return {x, top};
 }
 

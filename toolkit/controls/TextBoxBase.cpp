@@ -29,8 +29,6 @@ public:
     Zn::Ptr<iObject> payload;
 };
 
-bool isPrintableKey(int key) { return key >= 32 && key != Keys::Delete && key < Keys::Special; }
-
 bool isLineBreak(wchar_t c) { return c == L'\n' || c == L'\r' || c == 0x2028 || c == 0x2029 || c == 0x85; }
 
 // Word moves and double clicks treat runs of one class as a word: spaces, word
@@ -47,8 +45,8 @@ int frameWidth() { return std::max(1, static_cast<int>(std::lround(UifStd::insta
 } // namespace
 
 TextBoxBase::TextBoxBase(const GlobCreationInfo& info, const LightweightString<wchar_t>& text)
-    : StandardPanel(StandardPanel::InitArgs(info, Border(Border::kNone, 0, 15))), text_(text), committed_(text),
-      caret_(text.size()), anchor_(text.size()), margin_(defaultMargin()) {}
+    : StandardPanel(StandardPanel::InitArgs(info, Border(Border::kNoBorder, 0, 15))), text_(text), committed_(text), caret_(text.size()),
+      anchor_(text.size()), margin_(defaultMargin()) {}
 
 TextBoxBase::~TextBoxBase() = default;
 
@@ -364,8 +362,8 @@ bool TextBoxBase::fireCallback(eCallbackEvent event) {
         targetStamp = owner ? owner->stamp() : IdStamp();
     }
     if (!target) return true;
-    sendMessageWithData(kCallbackRelayMsg, this,
-                        Zn::Ptr<iObject>(new CallbackRelay(c.callback.message(), target, targetStamp, c.callback.payload())), this);
+    sendMessageWithData(kCallbackRelayMsg, this, Zn::Ptr<iObject>(new CallbackRelay(c.callback.message(), target, targetStamp, c.callback.payload())),
+                        this);
     return true;
 }
 
@@ -382,8 +380,7 @@ int TextBoxBase::handleDataMessageEvent(const LightweightString<char>& message, 
     for (const auto& [handler, handlerStamp] : chain) {
         if (!EventHandler::valid(handler, handlerStamp)) continue;
         iObject* from = EventHandler::valid(this, me) ? this : nullptr;
-        int taken = relay->payload ? callMessageWithData(relay->message, handler, relay->payload, from)
-                                   : callMessage(relay->message, handler, from);
+        int taken = relay->payload ? callMessageWithData(relay->message, handler, relay->payload, from) : callMessage(relay->message, handler, from);
         if (taken) break;
     }
     return 1;
@@ -413,7 +410,7 @@ int TextBoxBase::react(const Event& e) {
     if (e.type() == Event::kTextInput) {
         if (!editable_ || !isActive()) return 0;
         const LightweightString<wchar_t>& typed = e.typedText();
-        if (typed.size() == 1 && isPrintableKey(typed[0])) {
+        if (typed.size() == 1 && Keys::isPrintable(typed[0])) {
             keyModifiers_ = 0;
             return handleKeyboardEvent(typed[0]);
         }
@@ -421,36 +418,32 @@ int TextBoxBase::react(const Event& e) {
         return 1;
     }
     if (e.type() == Event::kKeyPress) {
-        constexpr unsigned kCommand = Modifiers::Control | Modifiers::Alt | Modifiers::Meta;
+        constexpr unsigned kCommand = Modifiers::Control | Modifiers::Alt | Modifiers::Cmd;
         // The character comes in the text event that follows this key.
-        if (isPrintableKey(e.keyCode()) && !(e.modifiers() & kCommand)) return editable_ && isActive() ? 1 : 0;
+        if (Keys::isPrintable(Keys::plain(e.keyCode())) && !(e.modifiers() & kCommand)) return editable_ && isActive() ? 1 : 0;
         keyModifiers_ = e.modifiers();
         IdStamp me = stamp();
-        int taken = StandardPanel::react(e);
+        int taken = StandardPanel::react(Event::key(Event::kKeyPress, Keys::editCommandFor(e.keyCode())));
         if (EventHandler::valid(this, me)) keyModifiers_ = 0;
         return taken;
     }
     return StandardPanel::react(e);
 }
 
-int TextBoxBase::handleCommandKey(int keyCode) {
-    bool shift = keyModifiers_ & Modifiers::Shift;
-    switch (keyCode < 128 ? std::towlower(static_cast<wint_t>(keyCode)) : 0) {
-    case L'a': highlightAllText(true); return 1;
-    case L'c': copy(); return 1;
-    case L'x': cut(); return 1;
-    case L'v': paste(); return 1;
-    case L'z': shift ? redo() : undo(); return 1;
-    case L'y': redo(); return 1;
-    default: return 0;
-    }
-}
-
 int TextBoxBase::handleKeyboardEvent(int keyCode) {
     if (!editable_ || !isActive()) return 0;
     const bool shift = keyModifiers_ & Modifiers::Shift;
-    const bool word = keyModifiers_ & (Modifiers::Control | Modifiers::Meta);
+    const bool word = keyModifiers_ & (Modifiers::Control | Modifiers::Cmd);
     switch (keyCode) {
+    case Keys::SelectAll: highlightAllText(true); return 1;
+    case Keys::Copy: copy(); return 1;
+    case Keys::Cut: cut(); return 1;
+    case Keys::Paste: paste(); return 1;
+    case Keys::Undo: undo(); return 1;
+    case Keys::Redo: redo(); return 1;
+    default: break;
+    }
+    switch (Keys::plain(keyCode)) {
     case Keys::Left:
         if (hasSelection() && !shift)
             moveCaret(selectionStart(), false);
@@ -466,27 +459,16 @@ int TextBoxBase::handleKeyboardEvent(int keyCode) {
     case Keys::Home: moveCaret(word ? 0 : homeOf(caret_), shift); return 1;
     case Keys::End: moveCaret(word ? text_.size() : endOf(caret_), shift); return 1;
     case Keys::Up:
-    case Keys::Down: return moveCaretVertically(keyCode == Keys::Up ? -1 : 1, shift) ? 1 : 0;
+    case Keys::Down: return moveCaretVertically(Keys::plain(keyCode) == Keys::Up ? -1 : 1, shift) ? 1 : 0;
     case Keys::Backspace: deleteBackwards(word); return 1;
-    case Keys::Delete:
-        if (shift && !word)
-            cut();
-        else
-            deleteForwards(word);
-        return 1;
-    case Keys::Insert:
-        if (shift)
-            paste();
-        else if (word)
-            copy();
-        return 1;
+    case Keys::Delete: deleteForwards(word); return 1;
+    case Keys::Insert: return 1;
     case Keys::Return:
     case Keys::KeypadEnter: return handleReturn();
     case Keys::Escape: return handleEscape();
     default: break;
     }
-    if (word) return handleCommandKey(keyCode);
-    if ((keyModifiers_ & Modifiers::Alt) || !isPrintableKey(keyCode)) return 0;
+    if (word || (keyModifiers_ & Modifiers::Alt) || !Keys::isPrintable(keyCode)) return 0;
     if (replaceSelection(LightweightString<wchar_t>(1, static_cast<wchar_t>(keyCode)), kTyping)) fireCallback(kCharTyped);
     return 1;
 }
@@ -515,9 +497,7 @@ int TextBoxBase::handleMouseEvent(const Event& e) {
     return mouse_left_event(e) ? 1 : 0;
 }
 
-MouseCursorID TextBoxBase::contextCursor(const XY<int>& p) const {
-    return editable_ && isActive() ? kCursorIBeam : StandardPanel::contextCursor(p);
-}
+MouseCursorID TextBoxBase::contextCursor(const XY<int>& p) const { return editable_ && isActive() ? kCursorIBeam : StandardPanel::contextCursor(p); }
 
 // ---- layout and painting ------------------------------------------------------
 
@@ -534,9 +514,7 @@ const Glib::TextLayout& TextBoxBase::layout() const {
     return *layout_;
 }
 
-LightweightString<wchar_t> TextBoxBase::displayText() const {
-    return obfuscated_ ? LightweightString<wchar_t>(text_.size(), kBullet) : text_;
-}
+LightweightString<wchar_t> TextBoxBase::displayText() const { return obfuscated_ ? LightweightString<wchar_t>(text_.size(), kBullet) : text_; }
 
 BoxInt TextBoxBase::textArea() const {
     int m = std::min({margin_, width() / 2, height() / 2});
@@ -590,9 +568,9 @@ void TextBoxBase::drawText() {
         if (!hasKbdFocus() && !placeholder_.empty()) {
             Glib::TextLayout hint(placeholder_.getString(), getFont(), wrapWidth());
             // An empty text has no width to align, so the hint aligns itself.
-            int shift = alignment_.horizontal == TextAlignment::kRightAligned ? hint.width()
-                        : alignment_.horizontal == TextAlignment::kCentred    ? hint.width() / 2
-                                                                              : 0;
+            int shift = alignment_.horizontal == Glib::kAlignRight     ? hint.width()
+                        : alignment_.horizontal == Glib::kAlignCentreH ? hint.width() / 2
+                                                                       : 0;
             hint.render(canvas(), o.x - (wrapWidth() > 0 ? 0 : shift), o.y, clip, p.text(kTextDimmed));
         }
     } else {

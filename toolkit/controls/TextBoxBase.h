@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/WidgetCallback.h"
+#include "draw/GlibDescriptions.h"
 #include "draw/TextLayout.h"
 #include "glob/StandardPanel.h"
 #include "glob/TabOrderManager.h"
@@ -31,14 +32,7 @@ public:
     enum eCallbackEvent { kFocusLost = 1, kCharTyped = 2, kReturnPressed = 3, kEscapePressed = 4, kNumCallbackEvents = 5 };
     // Which typed characters go in: all, only those listed, or all but those listed.
     enum eCharacterRestriction { kAnyCharacters = 0, kOnlyCharacters = 1, kExceptCharacters = 2 };
-    struct TextAlignment {
-        enum Horizontal { kLeftAligned = 0, kCentred = 1, kRightAligned = 2 };
-        enum Vertical { kTopAligned = 0, kMiddleAligned = 1, kBottomAligned = 2 };
-        int horizontal = kLeftAligned;
-        int vertical = kMiddleAligned;
-        TextAlignment() = default;
-        TextAlignment(int h, int v) : horizontal(h), vertical(v) {}
-    };
+    using TextAlignment = Glib::TextAlignment;
 
     TextBoxBase(const GlobCreationInfo& info, const LightweightString<wchar_t>& text);
     ~TextBoxBase() override;
@@ -196,7 +190,6 @@ private:
     std::size_t wordEnd(std::size_t index) const;
     // Selects the run of word characters, spaces or punctuation at `index`.
     void selectRunAround(std::size_t index);
-    int handleCommandKey(int keyCode);
     int handleEscape();
     void deleteBackwards(bool word);
     void deleteForwards(bool word);

@@ -25,7 +25,8 @@ XY<int> TextLabel::calcSizeFor(const UIString& text, const Glib::FontDesc& font)
 void TextLabel::drawBackground() {
     Glob::drawBackground();
     int gap = UifStd::instance().getWidgetGap();
-    Glib::TextDescription t(BoxInt(gap, 0, width() - gap, height()), text_.getString(), getFont(), getPalette().text(isActive() ? kTextNormal : kTextDimmed), align_);
+    Glib::TextDescription t(BoxInt(gap, 0, width() - gap, height()), text_.getString(), getFont(),
+                            getPalette().text(isActive() ? kTextNormal : kTextDimmed), align_);
     t.ellipsize = true;
     CanvasRenderer(canvas()).render(t);
 }

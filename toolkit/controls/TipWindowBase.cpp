@@ -107,8 +107,7 @@ void Tooltips::observe(const Event& e) {
             if (!o || !o->isShowing() || ownerOf(gm.input().hover()) != o) close();
             return;
         }
-        if (o && !suppressed_ && !buttonDown_ && o->isShowing() && ownerOf(gm.input().hover()) == o && msecsNow() - restSince_ >= delayMs)
-            open(o);
+        if (o && !suppressed_ && !buttonDown_ && o->isShowing() && ownerOf(gm.input().hover()) == o && msecsNow() - restSince_ >= delayMs) open(o);
         return;
     }
     default: return;
@@ -164,8 +163,7 @@ XY<int> TipWindowBase::calcPosition(const BoxInt& anchor, const XY<int>& size, e
     SiblingRelativePosition rel{relativity == kNoRelativity ? kBelow : relativity, nullptr, gap, kAlignStart};
     BoxInt b = placeBeside(size, anchor, rel);
     if (!within(area, b)) {
-        static const eWidgetRelativity opposite[] = {kBelow, kAbove, kRightOf, kLeftOf, kAbove};
-        rel.relativity = opposite[rel.relativity];
+        rel.relativity = oppositeSide(rel.relativity);
         BoxInt other = placeBeside(size, anchor, rel);
         if (within(area, other)) b = other;
     }

@@ -28,8 +28,7 @@ public:
         // The margin around the text; negative: the toolkit's widget gap.
         int indent = -1;
         InitArgs() = default;
-        InitArgs(const UIString& text, unsigned short width = 0, unsigned short height = 0)
-            : StandardPanel::InitArgs(width, height), text(text) {}
+        InitArgs(const UIString& text, unsigned short width = 0, unsigned short height = 0) : StandardPanel::InitArgs(width, height), text(text) {}
     };
 
     explicit TipWindowBase(const InitArgs& args);

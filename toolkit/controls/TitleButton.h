@@ -15,8 +15,8 @@ public:
         // 0: the button takes the width the legend leaves.
         unsigned short buttonWidth = 0;
         InitArgs() = default;
-        InitArgs(const UIString& title, const UIString& label, const WidgetCallback& callback, unsigned short titleWidth,
-                 unsigned short width, unsigned short height)
+        InitArgs(const UIString& title, const UIString& label, const WidgetCallback& callback, unsigned short titleWidth, unsigned short width,
+                 unsigned short height)
             : TitleGlob::InitArgs(title, width, height), label(label), callback(callback) {
             this->titleWidth = titleWidth;
         }

@@ -8,9 +8,7 @@
 
 namespace {
 
-bool anchoredLeft(eCoordinateOrigin o) {
-    return o == kUserBottomLeft || o == kBottomLeft || o == kUserTopLeft || o == kTopLeft || o == kLeftCentre;
-}
+bool anchoredLeft(eCoordinateOrigin o) { return o == kUserBottomLeft || o == kBottomLeft || o == kUserTopLeft || o == kTopLeft || o == kLeftCentre; }
 
 // Origins whose vertical offset counts up from the bottom edge, which the row
 // keeps at the value that centres the control.
@@ -20,8 +18,7 @@ Glib::FontDesc resolveFont(const Glib::FontDesc& f) { return f == Glib::FontDesc
 
 } // namespace
 
-TitleGlob::TitleGlob(const InitArgs& args)
-    : StandardPanel(StandardPanel::InitArgs(args, Border(Border::kNone, 0, 15))), legend_(args.title) {
+TitleGlob::TitleGlob(const InitArgs& args) : StandardPanel(StandardPanel::InitArgs(args, Border(Border::kNoBorder, 0, 15))), legend_(args.title) {
     requestedFont_ = args.font;
     legendFont_ = resolveFont(args.font);
     autoWidth_ = args.titleWidth <= 0;

@@ -29,8 +29,7 @@ public:
         int titleWidth = 0;
         Glib::FontDesc font;
         InitArgs() = default;
-        InitArgs(const UIString& title, unsigned short width, unsigned short height)
-            : GlobCreationInfo(width, height), title(title) {}
+        InitArgs(const UIString& title, unsigned short width, unsigned short height) : GlobCreationInfo(width, height), title(title) {}
     };
 
     explicit TitleGlob(const InitArgs& args);

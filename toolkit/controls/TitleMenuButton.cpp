@@ -7,7 +7,7 @@
 #include <algorithm>
 
 TitleMenuButton::TitleMenuButton(const InitArgs& args)
-    : StandardPanel(StandardPanel::InitArgs(args, Border(Border::kNone, 0, 15))), titleText_(args.title), buttonWidth_(args.buttonWidth) {
+    : StandardPanel(StandardPanel::InitArgs(args, Border(Border::kNoBorder, 0, 15))), titleText_(args.title), buttonWidth_(args.buttonWidth) {
     if (height() == 0) resize(width(), UifStd::instance().getRowHeight());
     DropDownMenuButton::InitArgs b(args.entries);
     if (!args.items.empty()) b.items = args.items;

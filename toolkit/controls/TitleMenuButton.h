@@ -16,8 +16,7 @@ public:
         // The width of the drop-down; 0 fits it to the entries, in the room the title leaves.
         unsigned short buttonWidth = 0;
         InitArgs() = default;
-        InitArgs(const UIString& title, const std::vector<UIString>& entries, unsigned short buttonWidth, unsigned short width,
-                 unsigned short height)
+        InitArgs(const UIString& title, const std::vector<UIString>& entries, unsigned short buttonWidth, unsigned short width, unsigned short height)
             : GlobCreationInfo(width, height), entries(entries), title(title), buttonWidth(buttonWidth) {}
     };
 

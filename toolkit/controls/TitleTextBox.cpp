@@ -6,7 +6,7 @@
 #include <algorithm>
 
 TitleTextBox::TitleTextBox(const InitArgs& args)
-    : StandardPanel(StandardPanel::InitArgs(args, Border(Border::kNone, 0, 15))), legend_(args.title), style_(args.style) {
+    : StandardPanel(StandardPanel::InitArgs(args, Border(Border::kNoBorder, 0, 15))), legend_(args.title), style_(args.style) {
     titleWidth_ = args.entryWidth > 0 ? std::max(0, width() - args.entryWidth) : calcTitleWidth(legend_, getFont());
     titleWidth_ = std::min(titleWidth_, width());
     // Made by hand rather than by createWidget, for which a width of 0 would mean

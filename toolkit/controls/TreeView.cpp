@@ -55,7 +55,9 @@ void TreeView::rebuild() {
     Drawable::enableRedraws();
 }
 
-TreeView::ItemId TreeView::itemAtRow(int row) const { return row >= 0 && row < static_cast<int>(rows_.size()) ? rows_[static_cast<std::size_t>(row)].id : 0; }
+TreeView::ItemId TreeView::itemAtRow(int row) const {
+    return row >= 0 && row < static_cast<int>(rows_.size()) ? rows_[static_cast<std::size_t>(row)].id : 0;
+}
 
 int TreeView::depthOfRow(int row) const { return row >= 0 && row < static_cast<int>(rows_.size()) ? rows_[static_cast<std::size_t>(row)].depth : 0; }
 
@@ -134,6 +136,7 @@ int TreeView::handleItemKey(int key) {
     int cur = getSelectedIndex();
     if (cur < 0 || cur >= static_cast<int>(rows_.size())) return 0;
     const Row row = rows_[static_cast<std::size_t>(cur)];
+    key = Keys::plain(key);
     if (key == Keys::Right) {
         if (row.hasChildren && !isExpanded(row.id)) {
             expand(row.id);

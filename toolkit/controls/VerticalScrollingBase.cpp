@@ -27,7 +27,7 @@ VerticalScrollingBase::VerticalScrollingBase(const InitArgs& args)
                           getPalette(), true, canvas());
     viewport_ = new Glob(view);
     addChild(viewport_, UserTopLeft(0, 0));
-    StandardPanel::InitArgs inner(GlobCreationInfo(view, 0, 0), Border(Border::kNone, 0, 15));
+    StandardPanel::InitArgs inner(GlobCreationInfo(view, 0, 0), Border(Border::kNoBorder, 0, 15));
     inner.height = 0;
     content = new StandardPanel(inner);
     viewport_->addChild(content, BottomLeft(0, 0));
@@ -159,7 +159,7 @@ int VerticalScrollingBase::handleMouseEvent(const Event& e) {
 
 int VerticalScrollingBase::handleKeyboardEvent(int key) {
     int page = std::max(1, viewHeight() - UifStd::instance().getRowHeight());
-    switch (key) {
+    switch (Keys::plain(key)) {
     case Keys::PageUp: scrollTo(offset_ - page); return 1;
     case Keys::PageDown: scrollTo(offset_ + page); return 1;
     case Keys::Home: scrollTo(0); return 1;

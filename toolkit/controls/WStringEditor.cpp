@@ -18,9 +18,8 @@ Glib::FontDesc cellFont(const CellContext& ctx) {
     return f.resolved();
 }
 
-std::pair<int, int> cellAlignment(const CellContext& ctx) {
-    auto a = ctx.adaptor ? ctx.adaptor->getTextAlignment(ctx.cell) : std::pair<int, int>(-1, 1);
-    return {std::clamp(a.first, -1, 1), std::clamp(a.second, -1, 1)};
+Glib::TextAlignment cellAlignment(const CellContext& ctx) {
+    return ctx.adaptor ? ctx.adaptor->getTextAlignment(ctx.cell) : Glib::TextAlignment(Glib::kAlignDefault, Glib::kAlignTop);
 }
 
 int lineHeightOf(const CellContext& ctx) { return ctx.table ? ctx.table->getRowHeight() : UifStd::instance().getRowHeight(); }
@@ -32,8 +31,8 @@ BoxInt WStringEditor::draw(CellContext& ctx, const LightweightString<wchar_t>& t
     BoxInt inner(ctx.box.x1 + margin, ctx.box.y1, ctx.box.x2 - margin, ctx.box.y2);
     if (text.empty() || inner.isEmpty()) return {};
     Glib::FontDesc font = cellFont(ctx);
-    auto [h, v] = cellAlignment(ctx);
-    auto align = h < 0 ? Glib::kAlignLeft : h == 0 ? Glib::kAlignCentreH : Glib::kAlignRight;
+    const Glib::TextAlignment alignment = cellAlignment(ctx);
+    const Glib::eHorizontalAlign align = alignment.horizontal == Glib::kAlignDefault ? Glib::kAlignLeft : alignment.horizontal;
     int lineH = std::max(1, std::min(lineHeightOf(ctx), inner.height()));
     Colour ink = ctx.palette.text();
     bool visible = ctx.clip.isEmpty() || !BoxInt(ctx.box).clip(ctx.clip).isEmpty();
@@ -47,11 +46,12 @@ BoxInt WStringEditor::draw(CellContext& ctx, const LightweightString<wchar_t>& t
         return BoxInt(inner.x1, inner.y2 - used, inner.x2, inner.y2);
     }
 
-    BoxInt band = v > 0 ? BoxInt(inner.x1, inner.y2 - lineH, inner.x2, inner.y2)
-                        : v < 0 ? BoxInt(inner.x1, inner.y1, inner.x2, inner.y1 + lineH) : inner;
+    BoxInt band = alignment.vertical == Glib::kAlignTop      ? BoxInt(inner.x1, inner.y2 - lineH, inner.x2, inner.y2)
+                  : alignment.vertical == Glib::kAlignBottom ? BoxInt(inner.x1, inner.y1, inner.x2, inner.y1 + lineH)
+                                                             : inner;
     XY<int> size = Glib::measureText(text, font);
     int width = std::min(size.x, band.width());
-    int x1 = h < 0 ? band.x1 : h == 0 ? band.x1 + (band.width() - width) / 2 : band.x2 - width;
+    int x1 = align == Glib::kAlignCentreH ? band.x1 + (band.width() - width) / 2 : align == Glib::kAlignRight ? band.x2 - width : band.x1;
     int top = band.y2 - (band.height() - size.y) / 2;
     BoxInt used(x1, top - size.y, x1 + width, top);
     if (!ctx.draw || !visible || !ctx.canvas) return used;
@@ -115,8 +115,8 @@ bool WStringEditor::isResponsibleForMessage(const LightweightString<char>& messa
            (message == TableWidget::cellCommitMsg || message == TableWidget::cellCancelMsg);
 }
 
-int WStringEditor::contextCursor(const CellContext& ctx, const XY<int>&) {
-    return ctx.adaptor && ctx.adaptor->canEdit(ctx.cell) ? kCellCursorText : kCellCursorDefault;
+MouseCursorID WStringEditor::contextCursor(const CellContext& ctx, const XY<int>&) {
+    return ctx.adaptor && ctx.adaptor->canEdit(ctx.cell) ? kCursorIBeam : kCursorArrow;
 }
 
 UIString WStringEditor::contextString(const CellContext& ctx) {

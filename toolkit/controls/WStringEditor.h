@@ -18,7 +18,7 @@ public:
     bool storeData(CellContext& ctx) override;
     void reset() override;
     bool isResponsibleForMessage(const LightweightString<char>& message, Glob* sender) const override;
-    int contextCursor(const CellContext& ctx, const XY<int>& p) override;
+    MouseCursorID contextCursor(const CellContext& ctx, const XY<int>& p) override;
     // The whole text when the cell is too narrow to show it.
     UIString contextString(const CellContext& ctx) override;
     XY<int> measure(const CellContext& ctx) override;

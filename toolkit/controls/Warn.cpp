@@ -25,8 +25,8 @@ void Warn::drawBackground() {
     CanvasRenderer(canvas()).render(Glib::RectDescription(stripeBox(), getPalette().warning()));
 }
 
-Warn* make_warn(const UIString& title, const UIString& text, const std::vector<UIString>& labels,
-                const std::vector<WidgetCallback>& callbacks, EventHandler* client, bool modal) {
+Warn* make_warn(const UIString& title, const UIString& text, const std::vector<UIString>& labels, const std::vector<WidgetCallback>& callbacks,
+                EventHandler* client, bool modal) {
     Warn::InitArgs args(title, text, labels, callbacks);
     args.palette = UifStd::instance().getColourScheme();
     args.client = client;

@@ -12,8 +12,7 @@ public:
         std::vector<UIString> labels;
         std::vector<WidgetCallback> callbacks;
         InitArgs() = default;
-        InitArgs(const UIString& title, const UIString& text, const std::vector<UIString>& labels,
-                 const std::vector<WidgetCallback>& callbacks)
+        InitArgs(const UIString& title, const UIString& text, const std::vector<UIString>& labels, const std::vector<WidgetCallback>& callbacks)
             : Message::InitArgs(title, text), labels(labels), callbacks(callbacks) {}
     };
 
@@ -28,5 +27,5 @@ public:
 
 // Shows a warning with buttons, centred on the screen. Labels without callbacks
 // only close it; no labels give one OK button.
-Warn* make_warn(const UIString& title, const UIString& text, const std::vector<UIString>& labels,
-                const std::vector<WidgetCallback>& callbacks, EventHandler* client, bool modal = true);
+Warn* make_warn(const UIString& title, const UIString& text, const std::vector<UIString>& labels, const std::vector<WidgetCallback>& callbacks,
+                EventHandler* client, bool modal = true);

@@ -13,7 +13,7 @@ Glib::FontDesc resolveFont(const Glib::FontDesc& f) { return f == Glib::FontDesc
 } // namespace
 
 WidgetGroup::WidgetGroup(const InitArgs& args)
-    : StandardPanel(StandardPanel::InitArgs(args, Border(Border::kNone, 0, 15))), legend_(args.title), requestedFont_(args.font) {
+    : StandardPanel(StandardPanel::InitArgs(args, Border(Border::kNoBorder, 0, 15))), legend_(args.title), requestedFont_(args.font) {
     font_ = resolveFont(args.font);
 }
 

@@ -3,6 +3,7 @@
 #include "CellContext.h"
 #include "core/UIString.h"
 #include "core/iObject.h"
+#include "glob/MouseCursor.h"
 
 class Event;
 class Glob;
@@ -13,9 +14,6 @@ class Glob;
 // child of the table, which owns it; the editor only keeps a checked reference.
 class iCellEditor : public virtual iObject {
 public:
-    // Codes of contextCursor, which the table turns into mouse cursors.
-    enum eCellCursor { kCellCursorDefault = 16, kCellCursorText = 17, kCellCursorCrosshair = 18, kCellCursorMove = 19, kCellCursorLink = 20 };
-
     // Makes the editing widget as a child of ctx.table if there is none, fills it
     // from the cell's data and returns it; the table places it. Null refuses.
     virtual Glob* getWidget(CellContext& ctx) = 0;
@@ -36,7 +34,8 @@ public:
     // A mouse event on the cell; true when the editor took it.
     virtual bool handleEvent(const CellContext& ctx, const Event& e) = 0;
     virtual bool hasFocus() const = 0;
-    virtual int contextCursor(const CellContext& ctx, const XY<int>& p) = 0;
+    // kCursorArrow lets the table's adaptor choose.
+    virtual MouseCursorID contextCursor(const CellContext& ctx, const XY<int>& p) = 0;
     virtual UIString contextString(const CellContext& ctx) = 0;
     // The size the cell's content needs.
     virtual XY<int> measure(const CellContext& ctx) = 0;

@@ -5,6 +5,8 @@
 #include "core/Event.h"
 #include "core/Palette.h"
 #include "draw/FontDesc.h"
+#include "draw/GlibDescriptions.h"
+#include "glob/MouseCursor.h"
 
 #include <utility>
 #include <vector>
@@ -38,12 +40,11 @@ public:
     virtual int getTextStyle(const XY<int>&) { return kStyleDefault; }
     // An empty description means the table's font.
     virtual Glib::FontDesc getFont(const XY<int>&) { return {}; }
-    // Horizontal -1 left, 0 centre, 1 right; vertical -1 bottom, 0 centre, 1 top
-    // (the first line centred in the top row's height).
-    virtual std::pair<int, int> getTextAlignment(const XY<int>&) { return {-1, 1}; }
+    // Top puts the first line in the top row's height of a taller cell.
+    virtual Glib::TextAlignment getTextAlignment(const XY<int>&) { return {Glib::kAlignDefault, Glib::kAlignTop}; }
     // A row's height in pixels; 0 (or less) for the table's row height.
     virtual int getRowHeight(int) { return 0; }
-    virtual int contextCursor(const XY<int>&) { return 16; }
+    virtual MouseCursorID contextCursor(const XY<int>&) { return kCursorArrow; }
     // Mouse events on a cell after its editor passed them over: press, release and
     // drag. Non-zero takes the event, and the table then does not select.
     virtual int handleMouseClickEvent(const XY<int>&, const Event&) { return 0; }

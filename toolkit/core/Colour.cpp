@@ -27,18 +27,13 @@ Colour Colour::mix(const Colour& a, const Colour& b, double t) {
     return Colour(lerp(a.r_, b.r_), lerp(a.g_, b.g_), lerp(a.b_, b.b_), lerp(a.a_, b.a_));
 }
 
-Colour scale(const Colour& c, double factor) {
-    return Colour(c.red() * factor, c.green() * factor, c.blue() * factor, c.alpha());
-}
+Colour scale(const Colour& c, double factor) { return Colour(c.red() * factor, c.green() * factor, c.blue() * factor, c.alpha()); }
 
 NormalisedRGB fromColour(const Colour& c) {
-    return NormalisedRGB(static_cast<float>(c.red()), static_cast<float>(c.green()), static_cast<float>(c.blue()),
-                         static_cast<float>(c.alpha()));
+    return NormalisedRGB(static_cast<float>(c.red()), static_cast<float>(c.green()), static_cast<float>(c.blue()), static_cast<float>(c.alpha()));
 }
 
-std::uint32_t asARGB(const Colour& c) {
-    return byteOf(c.alpha()) << 24 | byteOf(c.red()) << 16 | byteOf(c.green()) << 8 | byteOf(c.blue());
-}
+std::uint32_t asARGB(const Colour& c) { return byteOf(c.alpha()) << 24 | byteOf(c.red()) << 16 | byteOf(c.green()) << 8 | byteOf(c.blue()); }
 
 Colour colourFromARGB(std::uint32_t argb) {
     auto part = [argb](int shift) { return ((argb >> shift) & 0xFF) / 255.0; };

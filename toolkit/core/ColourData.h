@@ -10,8 +10,9 @@ public:
 
     ColourData() = default;
     ColourData(double c0, double c1, double c2, ColourSpace space, double alpha);
+    // A space number from outside; one that names no space gives RGB.
     ColourData(double c0, double c1, double c2, int space, double alpha)
-        : ColourData(c0, c1, c2, static_cast<ColourSpace>(space), alpha) {}
+        : ColourData(c0, c1, c2, space == kColourSpaceHSV ? kColourSpaceHSV : kColourSpaceRGB, alpha) {}
 
     ColourSpace getColourSpace() const { return space_; }
     // Converts the components into the given space in place.

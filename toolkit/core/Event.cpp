@@ -32,8 +32,8 @@ Event Event::wheel(XY<int> screenPos, int delta, unsigned modifiers) {
 Event Event::key(Type type, int keyCode, unsigned modifiers) {
     Event e;
     e.type_ = type;
-    e.key_ = keyCode;
-    e.modifiers_ = modifiers;
+    e.key_ = Keys::plain(keyCode);
+    e.modifiers_ = (modifiers | Keys::modifiersOf(keyCode)) & Modifiers::All;
     return e;
 }
 

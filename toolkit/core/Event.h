@@ -1,27 +1,13 @@
 #pragma once
 
 #include "IdStamp.h"
+#include "KeyCodes.h"
 #include "LightweightString.h"
 #include "Ptr.h"
 #include "XY.h"
 #include "iObject.h"
 
 class EventHandler;
-
-// Key codes: printable keys are their Unicode value; the others sit above the
-// Unicode range so that they never collide with text.
-namespace Keys {
-constexpr int Backspace = 8, Tab = 9, Return = 13, Escape = 27, Space = 32, Delete = 127;
-constexpr int Special = 0x200000;
-constexpr int Left = Special + 1, Right = Special + 2, Up = Special + 3, Down = Special + 4;
-constexpr int Home = Special + 5, End = Special + 6, PageUp = Special + 7, PageDown = Special + 8;
-constexpr int Insert = Special + 9, KeypadEnter = Special + 10;
-constexpr int F1 = Special + 0x100; // F1..F24 follow on
-} // namespace Keys
-
-namespace Modifiers {
-constexpr unsigned Shift = 1, Control = 2, Alt = 4, Meta = 8;
-}
 
 // The toolkit's event record: input, timer ticks and named messages.
 class Event {
@@ -48,6 +34,7 @@ public:
     static Event message(const LightweightString<char>& text, EventHandler* sender, const Zn::Ptr<iObject>& payload = {});
     static Event mouse(Type type, XY<int> screenPos, Button button = kNoButton, unsigned modifiers = 0);
     static Event wheel(XY<int> screenPos, int delta, unsigned modifiers = 0);
+    // Modifier bits may come in `keyCode`, in `modifiers` or in both.
     static Event key(Type type, int keyCode, unsigned modifiers = 0);
     static Event text(const LightweightString<wchar_t>& typed);
     static Event timer();
@@ -56,7 +43,8 @@ public:
     bool isMessage() const { return type_ == kMessage; }
     const LightweightString<char>& messageText() const { return message_; }
     const Zn::Ptr<iObject>& payload() const { return payload_; }
-    int keyCode() const { return key_; }
+    // The key with the modifiers held (see Keys).
+    int keyCode() const { return key_ | static_cast<int>(modifiers_); }
     unsigned modifiers() const { return modifiers_; }
     Button button() const { return button_; }
     int wheelDelta() const { return wheel_; }

@@ -18,8 +18,7 @@ IdStamp::IdStamp(const char* text) {
 IdStamp IdStamp::make() {
     // The process and its start time make stamps of different runs differ; the
     // counter makes them unique within a run.
-    static const unsigned session = static_cast<unsigned>(
-        std::chrono::steady_clock::now().time_since_epoch().count() & 0xffffffffu);
+    static const unsigned session = static_cast<unsigned>(std::chrono::steady_clock::now().time_since_epoch().count() & 0xffffffffu);
     static std::atomic<unsigned> counter{0};
     return IdStamp(static_cast<unsigned>(getpid()), session, ++counter);
 }

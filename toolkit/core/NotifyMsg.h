@@ -15,7 +15,9 @@ public:
     const LightweightString<char>& name() const { return name_; }
     const Zn::Ptr<iObject>& data() const { return data_; }
     template <class T>
-    Zn::Ptr<T> dataAs() const { return Zn::dynamicCast<T>(data_); }
+    Zn::Ptr<T> dataAs() const {
+        return Zn::dynamicCast<T>(data_);
+    }
 
 private:
     LightweightString<char> name_;

@@ -5,11 +5,11 @@ double luminance(const Colour& c) { return 0.2126 * c.red() + 0.7152 * c.green()
 } // namespace
 
 Palette::Palette()
-    : Palette(Colour(0.23, 0.23, 0.24), Colour(0.88, 0.88, 0.88), Colour(0.22, 0.45, 0.78), Colour(0.15, 0.15, 0.16),
-              Colour(0.25, 0.6, 0.3), Colour(0.9, 0.55, 0.1), Colour(0.6, 0.75, 0.95)) {}
+    : Palette(Colour(0.23, 0.23, 0.24), Colour(0.88, 0.88, 0.88), Colour(0.22, 0.45, 0.78), Colour(0.15, 0.15, 0.16), Colour(0.25, 0.6, 0.3),
+              Colour(0.9, 0.55, 0.1), Colour(0.6, 0.75, 0.95)) {}
 
-Palette::Palette(const Colour& window, const Colour& text, const Colour& selection, const Colour& childWindow,
-                 const Colour& doIt, const Colour& warning, const Colour& subheading, float shadeStep)
+Palette::Palette(const Colour& window, const Colour& text, const Colour& selection, const Colour& childWindow, const Colour& doIt,
+                 const Colour& warning, const Colour& subheading, float shadeStep)
     : colours_{window, text, selection, childWindow, doIt, warning, subheading}, shadeStep_(shadeStep) {}
 
 Colour Palette::window(eWindowShade shade) const {
@@ -45,9 +45,7 @@ Colour Palette::childWindow(eChildWindowType type) const {
 
 bool Palette::isDark() const { return luminance(colours_[kWindow]) < 0.5; }
 
-Colour contrastingText(const Colour& background) {
-    return luminance(background) < 0.5 ? Colour(0.95, 0.95, 0.95) : Colour(0.05, 0.05, 0.05);
-}
+Colour contrastingText(const Colour& background) { return luminance(background) < 0.5 ? Colour(0.95, 0.95, 0.95) : Colour(0.05, 0.05, 0.05); }
 
 Palette makeChildPalette(const Palette& parent) {
     Palette p(parent);

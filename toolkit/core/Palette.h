@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Colour.h"
+#include "enumFromInt.h"
 
 enum eWindowShade { kShadeDarkest = 0, kShadeDarker = 1, kShadeDark = 2, kShadeNormal = 3, kShadeLight = 4, kShadeLighter = 5, kShadeLightest = 6 };
 enum eTextAppearance { kTextNormal = 0, kTextDimmed = 1, kTextOnSelection = 2, kTextHeading = 3 };
@@ -15,17 +16,18 @@ public:
     enum Slot { kWindow, kText, kSelection, kChildWindow, kDoIt, kWarning, kSubheading, kNumSlots };
 
     Palette();
-    Palette(const Colour& window, const Colour& text, const Colour& selection, const Colour& childWindow,
-            const Colour& doIt, const Colour& warning, const Colour& subheading, float shadeStep = 0.08f);
+    Palette(const Colour& window, const Colour& text, const Colour& selection, const Colour& childWindow, const Colour& doIt, const Colour& warning,
+            const Colour& subheading, float shadeStep = 0.08f);
 
     Colour window(eWindowShade shade = kShadeNormal) const;
-    Colour window(int shade) const { return window(static_cast<eWindowShade>(shade)); }
+    // The int forms take numbers from outside; one that names nothing gives the default.
+    Colour window(int shade) const { return window(enumFromInt(shade, kShadeDarkest, kShadeLightest, kShadeNormal)); }
     Colour text(eTextAppearance appearance = kTextNormal) const;
-    Colour text(int a) const { return text(static_cast<eTextAppearance>(a)); }
+    Colour text(int a) const { return text(enumFromInt(a, kTextNormal, kTextHeading, kTextNormal)); }
     Colour selection(eSelectionAppearance appearance = kSelectionFocused) const;
-    Colour selection(int a) const { return selection(static_cast<eSelectionAppearance>(a)); }
+    Colour selection(int a) const { return selection(enumFromInt(a, kSelectionFocused, kSelectionUnfocused, kSelectionFocused)); }
     Colour childWindow(eChildWindowType type = kChildEntry) const;
-    Colour childWindow(int t) const { return childWindow(static_cast<eChildWindowType>(t)); }
+    Colour childWindow(int t) const { return childWindow(enumFromInt(t, kChildEntry, kChildInactive, kChildEntry)); }
     Colour doIt() const { return colours_[kDoIt]; }
     Colour warning() const { return colours_[kWarning]; }
     Colour subheadingText() const { return colours_[kSubheading]; }

@@ -29,7 +29,9 @@ public:
     Ptr(const Ptr& other) noexcept : count_(other.count_), object_(other.object_) { retain(); }
     Ptr(Ptr&& other) noexcept : count_(std::exchange(other.count_, nullptr)), object_(std::exchange(other.object_, nullptr)) {}
     template <class U, class = std::enable_if_t<std::is_convertible_v<U*, T*>>>
-    Ptr(const Ptr<U, D, C>& other) noexcept : count_(other.count()), object_(other.get()) { retain(); }
+    Ptr(const Ptr<U, D, C>& other) noexcept : count_(other.count()), object_(other.get()) {
+        retain();
+    }
 
     // Used by dynamicCast: shares an existing count.
     Ptr(RefCountBase* count, T* object) noexcept : count_(object ? count : nullptr), object_(object) { retain(); }

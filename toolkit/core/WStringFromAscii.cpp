@@ -35,7 +35,9 @@ LightweightString<wchar_t> WStringFromAscii(const char* text, std::size_t length
     return LightweightString<wchar_t>(wide);
 }
 
-LightweightString<wchar_t> WStringFromAscii(const char* text) { return text ? WStringFromAscii(text, std::strlen(text)) : LightweightString<wchar_t>(); }
+LightweightString<wchar_t> WStringFromAscii(const char* text) {
+    return text ? WStringFromAscii(text, std::strlen(text)) : LightweightString<wchar_t>();
+}
 
 LightweightString<wchar_t> WStringFromAscii(const LightweightString<char>& text) { return WStringFromAscii(text.c_str(), text.size()); }
 

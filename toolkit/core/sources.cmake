@@ -3,6 +3,7 @@ list(APPEND GLOBKIT_SOURCES
   core/ColourData.cpp
   core/Event.cpp
   core/IdStamp.cpp
+  core/KeyCodes.cpp
   core/Palette.cpp
   core/UIString.cpp
   core/Utf8.cpp

@@ -11,10 +11,7 @@
 #include <cstring>
 #include <string>
 
-
-void CanvasRenderer::setColour(const Colour& c) const {
-    cairo_set_source_rgba(canvas_->context(), c.red(), c.green(), c.blue(), c.alpha());
-}
+void CanvasRenderer::setColour(const Colour& c) const { cairo_set_source_rgba(canvas_->context(), c.red(), c.green(), c.blue(), c.alpha()); }
 
 void CanvasRenderer::noteModified(double x1, double y1, double x2, double y2) const {
     XY<int> o = canvas_->origin();
@@ -146,8 +143,7 @@ void CanvasRenderer::render(const Glib::LineDescription& l) const {
         const int x0 = static_cast<int>(std::floor(std::min(ax, bx) - reach)), y0 = static_cast<int>(std::floor(std::min(ay, by) - reach));
         const int w = static_cast<int>(std::ceil(std::max(ax, bx) + reach)) - x0, h = static_cast<int>(std::ceil(std::max(ay, by) + reach)) - y0;
         const double x1 = ax - x0, y1 = ay - y0, x2 = bx - x0, y2 = by - y0;
-        paintShape(cr, x0, y0, w, h, shapeKey('l', {x1, y1, x2, y2, lw, double(w), double(h)}),
-                   [=](cairo_t* c) { stroke(c, x1, y1, x2, y2); });
+        paintShape(cr, x0, y0, w, h, shapeKey('l', {x1, y1, x2, y2, lw, double(w), double(h)}), [=](cairo_t* c) { stroke(c, x1, y1, x2, y2); });
     }
     double half = l.width / 2 + 1;
     noteModified(std::min(l.from.x, l.to.x) - half, std::min(l.from.y, l.to.y) - half, std::max(l.from.x, l.to.x) + half + 1,

@@ -4,6 +4,7 @@
 #include "core/Box.h"
 #include "core/Colour.h"
 #include "core/Ptr.h"
+#include "core/enumFromInt.h"
 #include "image/iImage.h"
 
 // Descriptions of the drawing primitives, in the coordinates of the glob being
@@ -43,7 +44,26 @@ struct EllipseDescription {
     EllipseDescription(XY<double> c, XY<double> r, const Colour& col, bool fill = true) : centre(c), radii(r), colour(col), filled(fill) {}
 };
 
-enum eHorizontalAlign { kAlignLeft = 0, kAlignCentreH = 1, kAlignRight = 2 };
+// How text sits across its box; kAlignDefault leaves it to the drawing (left, or
+// what a paragraph's mark-up asks for).
+enum eHorizontalAlign { kAlignDefault = -1, kAlignLeft = 0, kAlignRight = 1, kAlignCentreH = 2 };
+// How text sits up and down its box; kAlignTop puts the first line at the top of a
+// box taller than the text (a table row, a log row).
+enum eVerticalAlign { kAlignMiddle = 0, kAlignTop = 1, kAlignBottom = 2 };
+
+// The two together, the alignment of text boxes, table cells and mark-up. Numbers
+// from outside that name no alignment give kAlignDefault and kAlignMiddle.
+struct TextAlignment {
+    eHorizontalAlign horizontal = kAlignDefault;
+    eVerticalAlign vertical = kAlignMiddle;
+
+    constexpr TextAlignment() = default;
+    constexpr TextAlignment(eHorizontalAlign h, eVerticalAlign v) : horizontal(h), vertical(v) {}
+    constexpr TextAlignment(int h, int v)
+        : horizontal(enumFromInt(h, kAlignDefault, kAlignCentreH, kAlignDefault)),
+          vertical(enumFromInt(v, kAlignMiddle, kAlignBottom, kAlignMiddle)) {}
+    bool operator==(const TextAlignment&) const = default;
+};
 
 // One line of text inside a box: aligned horizontally as `align` says, centred
 // vertically, cut off at the box's edges.
@@ -57,8 +77,7 @@ struct TextDescription {
     bool ellipsize = false;
 
     TextDescription() = default;
-    TextDescription(const BoxInt& b, const LightweightString<wchar_t>& t, const FontDesc& f, const Colour& c,
-                    eHorizontalAlign a = kAlignLeft)
+    TextDescription(const BoxInt& b, const LightweightString<wchar_t>& t, const FontDesc& f, const Colour& c, eHorizontalAlign a = kAlignLeft)
         : box(b), text(t), font(f), colour(c), align(a) {}
 };
 

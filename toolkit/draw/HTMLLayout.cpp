@@ -66,7 +66,7 @@ std::size_t HTMLLayout::indexAt(XY<int> p, int rowHeight) const {
 // Runs become attributes of one layout, not Pango mark-up, so no text is ever
 // read as mark-up.
 Glib::WordWrappingTextRenderer HTMLLayout::layOut(const HTMLRenderer::Paragraph& paragraph, int width, int align) {
-    PangoLayout* layout = Glib::WordWrappingTextRenderer::createLayout(width, paragraph.align == HTMLRenderer::kDefaultAlign ? align : paragraph.align);
+    PangoLayout* layout = Glib::WordWrappingTextRenderer::createLayout(width, paragraph.align == Glib::kAlignDefault ? align : paragraph.align);
     PangoFontDescription* base = Glib::makePangoFont(Glib::getDefaultFont());
     pango_layout_set_font_description(layout, base);
     pango_font_description_free(base);

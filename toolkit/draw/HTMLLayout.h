@@ -12,8 +12,8 @@
 // high whatever their fonts: what is measured in lines is what is painted.
 class HTMLLayout {
 public:
-    // `align` is the HTMLRenderer::HorizontalAlign of paragraphs that name none.
-    HTMLLayout(const LightweightVector<HTMLRenderer::Paragraph>& paragraphs, int width, int align = HTMLRenderer::kLeft);
+    // `align` is the Glib::eHorizontalAlign of paragraphs that name none.
+    HTMLLayout(const LightweightVector<HTMLRenderer::Paragraph>& paragraphs, int width, int align = Glib::kAlignLeft);
 
     long numLines() const { return lines_; }
     // Paints the lines in rows of `rowHeight` (above 0) from `top`, the y of the first row's

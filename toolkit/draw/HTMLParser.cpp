@@ -39,9 +39,9 @@ int hexValue(wchar_t c) {
 
 std::optional<Colour> namedColour(const std::wstring& name) {
     static const std::map<std::wstring, std::uint32_t> names = {
-        {L"black", 0x000000},  {L"white", 0xFFFFFF}, {L"red", 0xFF0000},    {L"green", 0x008000}, {L"lime", 0x00FF00},
-        {L"blue", 0x0000FF},   {L"yellow", 0xFFFF00}, {L"orange", 0xFFA500}, {L"gray", 0x808080},  {L"grey", 0x808080},
-        {L"silver", 0xC0C0C0}, {L"maroon", 0x800000}, {L"navy", 0x000080},   {L"purple", 0x800080}, {L"teal", 0x008080},
+        {L"black", 0x000000},  {L"white", 0xFFFFFF},  {L"red", 0xFF0000},     {L"green", 0x008000},   {L"lime", 0x00FF00},
+        {L"blue", 0x0000FF},   {L"yellow", 0xFFFF00}, {L"orange", 0xFFA500},  {L"gray", 0x808080},    {L"grey", 0x808080},
+        {L"silver", 0xC0C0C0}, {L"maroon", 0x800000}, {L"navy", 0x000080},    {L"purple", 0x800080},  {L"teal", 0x008080},
         {L"aqua", 0x00FFFF},   {L"cyan", 0x00FFFF},   {L"fuchsia", 0xFF00FF}, {L"magenta", 0xFF00FF}, {L"olive", 0x808000}};
     auto it = names.find(name);
     if (it == names.end()) return std::nullopt;
@@ -73,12 +73,12 @@ std::optional<int> parseFontSize(std::wstring_view value) {
     return std::clamp(sign ? 3 + sign * n : n, 1, 7);
 }
 
-int parseAlign(std::wstring_view value) {
+Glib::eHorizontalAlign parseAlign(std::wstring_view value) {
     std::wstring v = lower(trim(value));
-    if (v == L"center" || v == L"centre" || v == L"middle") return HTMLRenderer::kCentre;
-    if (v == L"right") return HTMLRenderer::kRight;
-    if (v == L"left" || v == L"justify") return HTMLRenderer::kLeft;
-    return HTMLRenderer::kDefaultAlign;
+    if (v == L"center" || v == L"centre" || v == L"middle") return Glib::kAlignCentreH;
+    if (v == L"right") return Glib::kAlignRight;
+    if (v == L"left" || v == L"justify") return Glib::kAlignLeft;
+    return Glib::kAlignDefault;
 }
 
 int scaledSize(int base, double factor) { return std::max(1, static_cast<int>(std::lround(base * factor))); }
@@ -170,12 +170,11 @@ bool HTMLParser::containsKnownTag(std::wstring_view text) {
 
 HTMLParser::Kind HTMLParser::kindOf(std::wstring_view name) {
     static const std::map<std::wstring_view, Kind> kinds = {
-        {L"html", Kind::kIgnored}, {L"body", Kind::kIgnored}, {L"head", Kind::kSkipped}, {L"title", Kind::kSkipped},
-        {L"style", Kind::kSkipped}, {L"script", Kind::kSkipped}, {L"p", Kind::kBlock},     {L"div", Kind::kBlock},
-        {L"h1", Kind::kHeading},   {L"h2", Kind::kHeading},    {L"h3", Kind::kHeading},    {L"h4", Kind::kHeading},
-        {L"h5", Kind::kHeading},   {L"h6", Kind::kHeading},    {L"br", Kind::kBreak},      {L"b", Kind::kInline},
-        {L"strong", Kind::kInline}, {L"i", Kind::kInline},     {L"em", Kind::kInline},     {L"u", Kind::kInline},
-        {L"font", Kind::kInline},  {L"a", Kind::kInline},      {L"span", Kind::kInline}};
+        {L"html", Kind::kIgnored},   {L"body", Kind::kIgnored},  {L"head", Kind::kSkipped}, {L"title", Kind::kSkipped}, {L"style", Kind::kSkipped},
+        {L"script", Kind::kSkipped}, {L"p", Kind::kBlock},       {L"div", Kind::kBlock},    {L"h1", Kind::kHeading},    {L"h2", Kind::kHeading},
+        {L"h3", Kind::kHeading},     {L"h4", Kind::kHeading},    {L"h5", Kind::kHeading},   {L"h6", Kind::kHeading},    {L"br", Kind::kBreak},
+        {L"b", Kind::kInline},       {L"strong", Kind::kInline}, {L"i", Kind::kInline},     {L"em", Kind::kInline},     {L"u", Kind::kInline},
+        {L"font", Kind::kInline},    {L"a", Kind::kInline},      {L"span", Kind::kInline}};
     auto it = kinds.find(name);
     return it == kinds.end() ? Kind::kUnknown : it->second;
 }
@@ -266,7 +265,7 @@ std::optional<std::pair<wchar_t, std::size_t>> HTMLParser::readEntity(std::wstri
     std::size_t semi = text.find(L';', pos + 1);
     if (semi == npos || semi - pos > kLongest) return std::nullopt;
     std::wstring_view body = text.substr(pos + 1, semi - pos - 1);
-    static const std::map<std::wstring_view, wchar_t> named = {{L"lt", L'<'},    {L"gt", L'>'},     {L"amp", L'&'},
+    static const std::map<std::wstring_view, wchar_t> named = {{L"lt", L'<'},   {L"gt", L'>'},    {L"amp", L'&'},
                                                                {L"quot", L'"'}, {L"apos", L'\''}, {L"nbsp", wchar_t(0xA0)}};
     if (auto it = named.find(body); it != named.end()) return std::make_pair(it->second, semi + 1);
     if (!body.empty() && body[0] == L'#') {
@@ -292,9 +291,7 @@ std::wstring HTMLParser::decodeEntities(std::wstring_view text) {
 
 void HTMLParser::handleTag(const Tag& tag) {
     switch (kindOf(tag.name)) {
-    case Kind::kBlock:
-        tag.closing ? closeBlock() : openBlock(tag);
-        break;
+    case Kind::kBlock: tag.closing ? closeBlock() : openBlock(tag); break;
     case Kind::kHeading:
         if (tag.closing) {
             popStyle(tag.name);
@@ -307,11 +304,8 @@ void HTMLParser::handleTag(const Tag& tag) {
     case Kind::kBreak:
         if (!tag.closing) addBreak();
         break;
-    case Kind::kInline:
-        tag.closing ? popStyle(tag.name) : pushStyle(tag);
-        break;
-    default:
-        break;
+    case Kind::kInline: tag.closing ? popStyle(tag.name) : pushStyle(tag); break;
+    default: break;
     }
 }
 

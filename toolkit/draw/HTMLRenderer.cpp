@@ -9,7 +9,6 @@
 #include <cmath>
 #include <string>
 
-
 namespace {
 
 using Paragraph = HTMLRenderer::Paragraph;
@@ -22,14 +21,14 @@ long linesOf(const Paragraph& p, int width) {
         const Run& run = p.runs.front();
         if (int n = Glib::TextAdvanceCache::forThisThread().countLines(run.text.view(), width, run.font); n > 0) return n;
     }
-    return HTMLLayout::layOut(p, width, HTMLRenderer::kLeft).numLines();
+    return HTMLLayout::layOut(p, width, Glib::kAlignLeft).numLines();
 }
 
 // The y of the first row's top edge when the rows take `height` pixels in all.
-int firstRowTop(const BoxInt& box, long height, int vertical) {
+int firstRowTop(const BoxInt& box, long height, Glib::eVerticalAlign vertical) {
     long spare = box.height() - height;
-    if (spare <= 0 || vertical == HTMLRenderer::kTop) return box.y2;
-    if (vertical == HTMLRenderer::kBottom) return box.y2 - static_cast<int>(spare);
+    if (spare <= 0 || vertical == Glib::kAlignTop) return box.y2;
+    if (vertical == Glib::kAlignBottom) return box.y2 - static_cast<int>(spare);
     return box.y2 - static_cast<int>(spare / 2);
 }
 
@@ -55,7 +54,7 @@ unsigned short HTMLRenderer::calcNumDisplayLines(const LightweightVector<Paragra
 }
 
 void HTMLRenderer::render(Canvas* canvas, const LightweightVector<Paragraph>& paragraphs, const BoxInt& box, int rowHeight,
-                          Alignment alignment) {
+                          Glib::TextAlignment alignment) {
     if (!canvas || box.isEmpty() || paragraphs.empty()) return;
     if (rowHeight <= 0) rowHeight = Glib::fontHeight(Glib::getDefaultFont());
     HTMLLayout layout(paragraphs, box.width(), alignment.horizontal);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FontDesc.h"
+#include "GlibDescriptions.h"
 #include "core/Box.h"
 #include "core/Colour.h"
 #include "core/LightweightString.h"
@@ -17,15 +18,8 @@ class Canvas;
 // &apos; &nbsp; and &#n;. Anything else is dropped, keeping the text inside.
 class HTMLRenderer {
 public:
-    enum HorizontalAlign { kDefaultAlign = -1, kLeft = 0, kCentre = 1, kRight = 2 };
-    // kTop is what log rows use: a cell can be taller than the text it shows.
-    enum VerticalAlign { kMiddle = 0, kTop = 1, kBottom = 2 };
-
-    struct Alignment {
-        int horizontal = kLeft;
-        int vertical = kTop;
-        constexpr Alignment(int h = kLeft, int v = kTop) : horizontal(h), vertical(v) {}
-    };
+    // Glib::kAlignTop is what log rows use: a cell can be taller than the text it shows.
+    static constexpr Glib::TextAlignment kLeftTop{Glib::kAlignLeft, Glib::kAlignTop};
 
     // A piece of text in one style.
     struct Run {
@@ -35,14 +29,12 @@ public:
         bool underline = false;
         LightweightString<wchar_t> link; // the href of an <a>, empty elsewhere
 
-        bool sameStyle(const Run& o) const {
-            return font == o.font && colour == o.colour && underline == o.underline && link == o.link;
-        }
+        bool sameStyle(const Run& o) const { return font == o.font && colour == o.colour && underline == o.underline && link == o.link; }
     };
 
     struct Paragraph {
         std::vector<Run> runs;
-        int align = kDefaultAlign; // a HorizontalAlign; the default takes the render call's
+        Glib::eHorizontalAlign align = Glib::kAlignDefault; // the default takes the render call's
 
         LightweightString<wchar_t> text() const;
     };
@@ -62,7 +54,7 @@ public:
     // Paints the paragraphs wrapped to the box's width, one line per row of
     // `rowHeight`, clipped to the box. Text taller than the box starts at its top.
     static void render(Canvas* canvas, const LightweightVector<Paragraph>& paragraphs, const BoxInt& box, int rowHeight,
-                       Alignment alignment = Alignment());
+                       Glib::TextAlignment alignment = kLeftTop);
 
     enum ConvertFlags { kEscapeMarkup = 1, kLineFeedsToBreaks = 2 };
     // Plain text as mark-up of one paragraph: with kEscapeMarkup, characters that

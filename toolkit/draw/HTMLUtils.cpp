@@ -19,8 +19,8 @@ void appendHexByte(std::wstring& out, std::uint32_t byte) {
 
 } // namespace
 
-LightweightString<wchar_t> HTMLUtils::addTags(const LightweightString<wchar_t>& text, std::wstring_view open, std::wstring_view close,
-                                              int start, int end) {
+LightweightString<wchar_t> HTMLUtils::addTags(const LightweightString<wchar_t>& text, std::wstring_view open, std::wstring_view close, int start,
+                                              int end) {
     std::size_t from = position(start, text.size(), 0);
     std::size_t to = position(end, text.size(), text.size());
     if (to < from) return text;
@@ -35,8 +35,8 @@ LightweightString<wchar_t> HTMLUtils::addParagraphTags(const LightweightString<w
     return addTags(text, L"<p>", L"</p>", start, end);
 }
 
-LightweightString<wchar_t> HTMLUtils::addColourTags(const LightweightString<wchar_t>& text, double red, double green, double blue,
-                                                    double alpha, int start, int end) {
+LightweightString<wchar_t> HTMLUtils::addColourTags(const LightweightString<wchar_t>& text, double red, double green, double blue, double alpha,
+                                                    int start, int end) {
     return addColourTags(text, Colour(red, green, blue, alpha), start, end);
 }
 

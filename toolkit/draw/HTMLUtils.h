@@ -17,15 +17,14 @@ public:
 
     static LightweightString<wchar_t> addParagraphTags(const LightweightString<wchar_t>& text, int start = -1, int end = -1);
     // A <font color> of the colour; alpha below 1 is written as a fourth byte.
-    static LightweightString<wchar_t> addColourTags(const LightweightString<wchar_t>& text, double red, double green, double blue,
-                                                    double alpha, int start = -1, int end = -1);
-    static LightweightString<wchar_t> addColourTags(const LightweightString<wchar_t>& text, const Colour& colour, int start = -1,
-                                                    int end = -1);
+    static LightweightString<wchar_t> addColourTags(const LightweightString<wchar_t>& text, double red, double green, double blue, double alpha,
+                                                    int start = -1, int end = -1);
+    static LightweightString<wchar_t> addColourTags(const LightweightString<wchar_t>& text, const Colour& colour, int start = -1, int end = -1);
     // Style 1 (bold) is how headings show, 2 (italic) is emphasis; bits combine.
     static LightweightString<wchar_t> addStyleTags(const LightweightString<wchar_t>& text, int style, int start = -1, int end = -1);
 
-    static LightweightString<wchar_t> addTags(const LightweightString<wchar_t>& text, std::wstring_view open, std::wstring_view close,
-                                              int start, int end);
+    static LightweightString<wchar_t> addTags(const LightweightString<wchar_t>& text, std::wstring_view open, std::wstring_view close, int start,
+                                              int end);
     // Plain text made safe to stand inside mark-up: & < > and " become entities,
     // which HTMLRenderer reads back as the characters. Apply before adding tags.
     static LightweightString<wchar_t> escape(const LightweightString<wchar_t>& text);

@@ -69,8 +69,7 @@ int TextLayout::emptyLineHeight(const FontDesc& font) {
     return heights.emplace(key, h).first->second;
 }
 
-TextLayout::TextLayout(const LightweightString<wchar_t>& text, const FontDesc& font, int wrapWidth)
-    : layout_(pango_layout_new(layoutContext())) {
+TextLayout::TextLayout(const LightweightString<wchar_t>& text, const FontDesc& font, int wrapWidth) : layout_(pango_layout_new(layoutContext())) {
     PangoFontDescription* d = makePangoFont(font);
     pango_layout_set_font_description(layout_, d);
     pango_font_description_free(d);

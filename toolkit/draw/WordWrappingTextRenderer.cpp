@@ -1,7 +1,7 @@
 #include "WordWrappingTextRenderer.h"
 
-#include "PangoSupport.h"
 #include "Canvas.h"
+#include "PangoSupport.h"
 #include "TextAdvanceCache.h"
 #include "core/Utf8.h"
 
@@ -9,7 +9,6 @@
 #include <cmath>
 #include <cstdint>
 #include <utility>
-
 
 namespace {
 
@@ -23,9 +22,9 @@ unsigned short clampCount(int n) { return static_cast<unsigned short>(std::clamp
 
 // Where and how to paint a layout's lines.
 struct RowPlacement {
-    int left;         // canvas x of the box's left edge
-    double top;       // cairo y of the first row's top
-    double clipTop;   // cairo y of the box's top
+    int left;       // canvas x of the box's left edge
+    double top;     // cairo y of the first row's top
+    double clipTop; // cairo y of the box's top
     double clipBottom;
     int rowHeight;
 };
@@ -54,8 +53,7 @@ void paintLines(cairo_t* cr, PangoLayout* layout, RowPlacement p) {
 
 namespace Glib {
 
-WordWrappingTextRenderer::WordWrappingTextRenderer(const LightweightString<wchar_t>& text, const FontDesc& font, int width,
-                                                   int align)
+WordWrappingTextRenderer::WordWrappingTextRenderer(const LightweightString<wchar_t>& text, const FontDesc& font, int width, int align)
     : layout_(createLayout(width, align)) {
     PangoFontDescription* d = makePangoFont(font);
     pango_layout_set_font_description(layout_, d);
@@ -70,17 +68,14 @@ WordWrappingTextRenderer::~WordWrappingTextRenderer() {
     if (layout_) g_object_unref(layout_);
 }
 
-WordWrappingTextRenderer::WordWrappingTextRenderer(WordWrappingTextRenderer&& other) noexcept
-    : layout_(std::exchange(other.layout_, nullptr)) {}
+WordWrappingTextRenderer::WordWrappingTextRenderer(WordWrappingTextRenderer&& other) noexcept : layout_(std::exchange(other.layout_, nullptr)) {}
 
 WordWrappingTextRenderer& WordWrappingTextRenderer::operator=(WordWrappingTextRenderer&& other) noexcept {
     std::swap(layout_, other.layout_);
     return *this;
 }
 
-unsigned short WordWrappingTextRenderer::numLines() const {
-    return layout_ ? clampCount(pango_layout_get_line_count(layout_)) : 1;
-}
+unsigned short WordWrappingTextRenderer::numLines() const { return layout_ ? clampCount(pango_layout_get_line_count(layout_)) : 1; }
 
 std::vector<LightweightString<wchar_t>> WordWrappingTextRenderer::lines() const {
     std::vector<LightweightString<wchar_t>> result;
@@ -143,8 +138,8 @@ unsigned short WordWrappingTextRenderer::calcNumDisplayLines(const LightweightSt
     return WordWrappingTextRenderer(text, font, width).numLines();
 }
 
-void WordWrappingTextRenderer::renderString(Canvas* canvas, const LightweightString<wchar_t>& text, const BoxInt& box,
-                                            const Colour& colour, const FontDesc& font, int rowHeight, int align) {
+void WordWrappingTextRenderer::renderString(Canvas* canvas, const LightweightString<wchar_t>& text, const BoxInt& box, const Colour& colour,
+                                            const FontDesc& font, int rowHeight, int align) {
     if (!canvas || box.isEmpty() || text.empty()) return;
     WordWrappingTextRenderer(text, font, box.width(), align).render(canvas, box, colour, rowHeight);
 }

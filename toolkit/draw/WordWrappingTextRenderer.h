@@ -49,8 +49,8 @@ public:
     static constexpr std::size_t npos = static_cast<std::size_t>(-1);
 
     static unsigned short calcNumDisplayLines(const LightweightString<wchar_t>& text, int width, const FontDesc& font);
-    static void renderString(Canvas* canvas, const LightweightString<wchar_t>& text, const BoxInt& box, const Colour& colour,
-                             const FontDesc& font, int rowHeight, int align);
+    static void renderString(Canvas* canvas, const LightweightString<wchar_t>& text, const BoxInt& box, const Colour& colour, const FontDesc& font,
+                             int rowHeight, int align);
 
     // An empty layout for attributed text, measured exactly as this class measures.
     static PangoLayout* createLayout(int width, int align);

@@ -1,14 +1,37 @@
 #pragma once
 
-// The frame of a panel. Types: 0 none, 1 a plain line, 2 raised (light top left,
-// dark bottom right), 3 sunken. `sides` picks the sides: 1 left, 2 right, 4 bottom, 8 top.
+#include "core/enumFromInt.h"
+
+// The frame of a panel: a type, a width in pixels, and the sides it covers (`sides`
+// bits: 1 left, 2 right, 4 bottom, 8 top). The type numbers are part of the
+// toolkit's contract (NUMBERS.md); the rounded types frame all four sides.
 class Border {
 public:
-    enum eType { kNone = 0, kLine = 1, kRaised = 2, kSunken = 3 };
+    enum eType {
+        kNoBorder = 0,
+        // A band in the darkest shade of the window colour: menus.
+        kMenuBorder = 1,
+        // A band in the darker shade: panels dropped from a button, which add a shadow.
+        kDropMenuBorder = 2,
+        // A rounded ring in the darker shade.
+        kCurvedPanelBorder = 3,
+        // Raised: light top and left, dark bottom and right. The default panel frame.
+        kSquarePanelBorder = 4,
+        // A rounded ring in the darkest shade.
+        kDarkenedRoundedRect = 5,
+        // A band in the text colour.
+        kLineBorder = 6,
+        // Sunken: dark top and left, light bottom and right.
+        kSunkenBorder = 7,
+        // Raised inside a line in the darkest shade: the frame of a dialogue.
+        kDialogueBorder = 8,
+    };
+    // A number from outside as a type; one that names none gives kNoBorder.
+    static constexpr eType typeFromInt(int type) { return enumFromInt(type, kNoBorder, kDialogueBorder, kNoBorder); }
 
     Border() = default;
     Border(eType type, unsigned short size, unsigned int sides) : type_(type), size_(size), sides_(sides) {}
-    Border(int type, unsigned short size, unsigned int sides) : Border(static_cast<eType>(type), size, sides) {}
+    Border(int type, unsigned short size, unsigned int sides) : Border(typeFromInt(type), size, sides) {}
 
     eType type() const { return type_; }
     void setType(eType t) { type_ = t; }
@@ -22,7 +45,7 @@ public:
     bool operator==(const Border&) const = default;
 
 private:
-    eType type_ = kNone;
+    eType type_ = kNoBorder;
     unsigned short size_ = 0;
     unsigned int sides_ = 15;
 };

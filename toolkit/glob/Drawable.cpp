@@ -38,6 +38,10 @@ std::size_t Drawable::pendingCount() { return state().pending.size(); }
 
 void Drawable::clearPendingRedraws() { state().pending.clear(); }
 
+void Drawable::clearPendingRedraws(const std::function<bool(const Drawable&)>& drop) {
+    std::erase_if(state().pending, [&](const Pending& p) { return !EventHandler::valid(p.owner, p.stamp) || drop(*p.drawable); });
+}
+
 void Drawable::update() {
     // Painting may ask for more redraws, so take the list first.
     std::vector<Pending> work;
@@ -49,9 +53,15 @@ void Drawable::update() {
 void Drawable::redraw() {
     State& s = state();
     if (s.depth == 0) {
+        std::erase_if(s.pending, [this](const Pending& p) { return p.drawable == this; });
         paintNow();
         return;
     }
+    redrawLater();
+}
+
+void Drawable::redrawLater() {
+    State& s = state();
     bool already = std::any_of(s.pending.begin(), s.pending.end(), [this](const Pending& p) { return p.drawable == this; });
     if (!already) s.pending.push_back({this, owner_, owner_ ? owner_->stamp() : IdStamp()});
 }

@@ -2,6 +2,7 @@
 
 #include "core/IdStamp.h"
 
+#include <functional>
 #include <vector>
 
 class EventHandler;
@@ -24,10 +25,16 @@ public:
     // Carries out every pending request now.
     static void update();
     static void clearPendingRedraws();
+    // Drops the requests of the drawables that `drop` picks, and those of the dead.
+    static void clearPendingRedraws(const std::function<bool(const Drawable&)>& drop);
     static std::size_t pendingCount();
 
-    // Paints now, or remembers to when redraws are disabled.
+    // Paints now, or remembers to when redraws are disabled. Painting now also
+    // satisfies a request remembered before.
     void redraw();
+    // Remembers to paint at the next update() even when redraws are enabled: for a
+    // change in the middle of work that will change more before it is worth painting.
+    void redrawLater();
 
 protected:
     // Does the painting itself.

@@ -1,17 +1,17 @@
 #include "Glob.h"
 
 #include "GlobManager.h"
+#include "InputDispatcher.h"
 #include "Messaging.h"
 #include "draw/Canvas.h"
 #include "draw/CanvasRenderer.h"
 #include "draw/Screen.h"
 #include "draw/StateSaver.h"
-#include "InputDispatcher.h"
 
 #include <algorithm>
 #include <cstdlib>
-#include <string>
 #include <mutex>
+#include <string>
 #include <unordered_set>
 
 namespace {
@@ -234,6 +234,12 @@ void Glob::resize(double width, double height) {
     if (ownCanvas_) ownCanvas_->resize(w_, h_);
     calcAbsoluteWidgetPositions();
     if (parent_) parent_->handleChildResize(this, old);
+    // The new canvas is blank. It is painted once the whole resize is done, since
+    // overrides lay their own furniture out after this returns.
+    if (ownCanvas_ && GlobManager::instance().isRealized(this)) {
+        redrawLater();
+        GlobManager::instance().screenChanged();
+    }
 }
 
 void Glob::handleChildResize(const Glob*, const XY<int>&) { calcAbsoluteWidgetPositions(); }
@@ -303,8 +309,7 @@ void Glob::setModalContextGlob(Glob* modal, Glob* context) { GlobManager::instan
 void Glob::unsetModalContextGlob(Glob* modal) { GlobManager::instance().removeModalGlob(modal); }
 
 void Glob::reshapeAndDraw(const XY<int>& s) {
-    constexpr int kKeep = -1234;
-    resize(s.x == kKeep ? w_ : s.x, s.y == kKeep ? h_ : s.y);
+    resize(s.x == kUnset ? w_ : s.x, s.y == kUnset ? h_ : s.y);
     redraw();
 }
 
@@ -479,12 +484,12 @@ bool Glob::hasKbdFocus() const { return get_kbd_focus() == this; }
 
 void Glob::setInterest(int bits) {
     interest_ |= bits;
-    if (bits & 4096) GlobManager::instance().setTimerInterest(this, true);
+    if (bits & kTimerInterest) GlobManager::instance().setTimerInterest(this, true);
 }
 
 void Glob::clearInterest(int bits) {
     interest_ &= ~bits;
-    if (bits & 4096) GlobManager::instance().setTimerInterest(this, false);
+    if (bits & kTimerInterest) GlobManager::instance().setTimerInterest(this, false);
 }
 
 void Glob::popToTop(bool) { GlobManager::instance().raise(getRootParent(this)); }

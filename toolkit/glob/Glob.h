@@ -24,6 +24,9 @@ class Glob : public EventHandler, public Drawable, public Dirtiable {
 public:
     enum eSizeState { kNormalSize = 0, kMinimised = 1, kMaximised = 2 };
     enum eDropReason { kDropped = 0, kDropCancelled = 1 };
+    // What about the appearance changed (NUMBERS.md): the language or the fonts, so
+    // that texts are to be taken and measured again.
+    enum eUIChange : unsigned { kLanguageChanged = 8 };
 
     explicit Glob(const GlobCreationInfo& info);
     ~Glob() override;
@@ -97,7 +100,10 @@ public:
     XY<int> screenXYToGlobXY(const XY<int>& p) const;
     // Sizes below the minimum size are raised to it. Children are laid out again.
     virtual void resize(double width, double height);
-    // Resizes to `size` (−1234 in either keeps that side) and repaints.
+    // The mark of a coordinate that is not given: a size side of kUnset keeps that
+    // side, a point of (kUnset, kUnset) is no point.
+    static constexpr int kUnset = -1234;
+    // Resizes to `size` (kUnset in either keeps that side) and repaints.
     void reshapeAndDraw(const XY<int>& size);
     virtual void setMinSize(unsigned short w, unsigned short h);
     virtual XY<int> getMinSize() const { return minSize_; }
@@ -176,7 +182,8 @@ public:
     bool isMovable() const { return movable_; }
     void setResizable(bool r) { resizable_ = r; }
     bool isResizable() const { return resizable_; }
-    // Called on every glob when the appearance of the whole application changes.
+    // Called on every glob when the appearance of the whole application changes;
+    // `what` holds eUIChange bits.
     virtual void handleUIChange(unsigned int what);
 
     // Painting: draw() paints the background, the children and the border, in
@@ -218,7 +225,8 @@ public:
     virtual void handleKbdFocus(bool gained) {}
     virtual void relinquishKbdFocus(Glob* next);
     bool hasKbdFocus() const;
-    // Bit 4096 asks for timer ticks (handleTimerEvent on panels).
+    // The interest bit that asks for timer ticks (handleTimerEvent on panels).
+    static constexpr int kTimerInterest = 4096;
     virtual void setInterest(int bits);
     virtual void clearInterest(int bits);
     int interest() const { return interest_; }

@@ -178,7 +178,8 @@ Glob* GlobManager::topModal() const {
 XY<int> GlobManager::getSafePosForGlob(Canvas*, const XY<int>& pos, const XY<int>& size) const {
     const Screen& s = const_cast<GlobManager*>(this)->screen();
     int x = std::clamp(pos.x, 0, std::max(0, s.width() - size.x));
-    int y = std::clamp(pos.y, 0, std::max(0, s.height() - size.y));
+    // A glob taller than the screen hangs from its top, so that its title bar can be reached.
+    int y = size.y > s.height() ? s.height() - size.y : std::clamp(pos.y, 0, s.height() - size.y);
     return {x, y};
 }
 
@@ -207,6 +208,9 @@ XY<int> GlobManager::getPosForGlob(const GlobCreationInfo& info, const WidgetPos
 
 void GlobManager::show(Glob* g, const WidgetPosition& where) {
     if (!g) return;
+    // Nothing comes up larger than the screen, where part of it could not be reached.
+    const Screen& s = screen();
+    if (g->width() > s.width() || g->height() > s.height()) g->resize(std::min(g->width(), s.width()), std::min(g->height(), s.height()));
     GlobCreationInfo info(static_cast<unsigned short>(g->width()), static_cast<unsigned short>(g->height()));
     g->setupRootPos(getPosForGlob(info, where));
     realize(g);
@@ -272,8 +276,7 @@ bool GlobManager::processPending() {
 }
 
 void GlobManager::runUntilIdle(int maxRounds) {
-    for (int i = 0; i < maxRounds && processPending(); ++i) {
-    }
+    for (int i = 0; i < maxRounds && processPending(); ++i) {}
     compose();
 }
 

@@ -54,7 +54,8 @@ public:
     XY<int> getSafePosForGlob(Canvas* c, const XY<int>& pos, const XY<int>& size) const;
     XY<int> calcPosForGlob(const XY<int>& size, const SiblingRelativePosition& rel, const BoxInt& area) const;
     void redisplay(Glob* g, const XY<int>& pos, eCoordinateOrigin origin, bool raise);
-    // Places a new top-level glob at `where`, by its own size and on the screen, and shows it.
+    // Places a new top-level glob at `where`, by its own size (cut to the screen's)
+    // and on the screen, and shows it.
     void show(Glob* g, const WidgetPosition& where);
 
     const std::vector<Glob*>& roots() const { return roots_; }

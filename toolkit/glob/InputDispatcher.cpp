@@ -4,8 +4,8 @@
 #include "GlobManager.h"
 
 #include <chrono>
-#include <vector>
 #include <cstdlib>
+#include <vector>
 
 namespace {
 constexpr long long kDoubleClickMs = 400;

@@ -27,18 +27,14 @@ int co_pid() {
     return id;
 }
 
-void sendMessage(const LightweightString<char>& name, EventHandler* target, iObject* sender, bool) {
-    sendMessageWithData(name, target, {}, sender);
-}
+void sendMessage(const LightweightString<char>& name, EventHandler* target, iObject* sender, bool) { sendMessageWithData(name, target, {}, sender); }
 
 void sendMessageWithData(const LightweightString<char>& name, EventHandler* target, const Zn::Ptr<iObject>& data, iObject* sender) {
     if (!target) return;
     GlobManager::instance().post(Event::message(name, asHandler(sender), data), target);
 }
 
-int callMessage(const LightweightString<char>& name, EventHandler* target, iObject* sender) {
-    return callMessageWithData(name, target, {}, sender);
-}
+int callMessage(const LightweightString<char>& name, EventHandler* target, iObject* sender) { return callMessageWithData(name, target, {}, sender); }
 
 int callMessageWithData(const LightweightString<char>& name, EventHandler* target, const Zn::Ptr<iObject>& data, iObject* sender) {
     if (!EventHandler::isLive(target)) return 0;

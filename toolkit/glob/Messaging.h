@@ -11,12 +11,10 @@ class Glob;
 // thread, in the order posted. Callable from any thread. A target that has died by
 // then does not get it.
 void sendMessage(const LightweightString<char>& name, EventHandler* target, iObject* sender = nullptr, bool unused = false);
-void sendMessageWithData(const LightweightString<char>& name, EventHandler* target, const Zn::Ptr<iObject>& data,
-                         iObject* sender = nullptr);
+void sendMessageWithData(const LightweightString<char>& name, EventHandler* target, const Zn::Ptr<iObject>& data, iObject* sender = nullptr);
 // Delivers a message event at once; returns what the target's handler returned.
 int callMessage(const LightweightString<char>& name, EventHandler* target, iObject* sender = nullptr);
-int callMessageWithData(const LightweightString<char>& name, EventHandler* target, const Zn::Ptr<iObject>& data,
-                        iObject* sender = nullptr);
+int callMessageWithData(const LightweightString<char>& name, EventHandler* target, const Zn::Ptr<iObject>& data, iObject* sender = nullptr);
 
 // 0 on the user-interface thread, a positive number on any other.
 int co_pid();

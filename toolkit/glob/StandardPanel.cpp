@@ -1,6 +1,7 @@
 #include "StandardPanel.h"
 
 #include "GlobManager.h"
+#include "Messaging.h"
 #include "UifStd.h"
 #include "draw/Canvas.h"
 #include "draw/CanvasRenderer.h"
@@ -12,9 +13,10 @@ namespace {
 // A small button of the title bar that draws a glyph and runs an action when clicked.
 class FurnitureButton : public Glob {
 public:
-    enum Glyph { kClose, kPin, kFlip, kGrip };
+    enum Glyph { kClose, kCogs, kFlip, kDoIt, kPin, kGrip };
 
-    FurnitureButton(const GlobCreationInfo& info, Glyph glyph, std::function<void()> action)
+    // The action is given the button, which is where the cogs open their menu.
+    FurnitureButton(const GlobCreationInfo& info, Glyph glyph, std::function<void(Glob*)> action)
         : Glob(info), glyph_(glyph), action_(std::move(action)) {}
 
     const char* idstring() const override { return "FurnitureButton"; }
@@ -31,11 +33,20 @@ public:
             r.render(Glib::LineDescription({double(m), double(m)}, {double(w - m), double(h - m)}, ink, 1.5));
             r.render(Glib::LineDescription({double(m), double(h - m)}, {double(w - m), double(m)}, ink, 1.5));
             break;
+        case kCogs: {
+            Glib::EllipseDescription wheel({width() / 2.0, height() / 2.0}, {w / 3.0, h / 3.0}, ink, false);
+            wheel.lineWidth = std::max(1.5, w / 8.0);
+            r.render(wheel);
+            break;
+        }
+        case kDoIt:
+            r.render(Glib::LineDescription({double(m), h / 2.0}, {w / 2.0 - 1, double(m)}, ink, 1.5));
+            r.render(Glib::LineDescription({w / 2.0 - 1, double(m)}, {double(w - m), double(h - m)}, ink, 1.5));
+            break;
         case kPin: r.render(Glib::EllipseDescription({width() / 2.0, height() / 2.0}, {w / 4.0, h / 4.0}, ink, true)); break;
         case kFlip: r.render(Glib::RectDescription(BoxInt(m, m, width() - m, height() - m), ink)); break;
         case kGrip:
-            for (int k = 0; k < 3; ++k)
-                r.render(Glib::LineDescription({double(w - 3 * k - 3), 0.0}, {double(w), double(3 * k + 3)}, ink));
+            for (int k = 0; k < 3; ++k) r.render(Glib::LineDescription({double(w - 3 * k - 3), 0.0}, {double(w), double(3 * k + 3)}, ink));
             break;
         }
     }
@@ -44,7 +55,7 @@ public:
         if (glyph_ == kGrip) return 0; // the panel drags its frame
         if (mouse_down_event(e) && mouse_left_event(e)) return 1;
         if (mouse_up_event(e) && mouse_left_event(e)) {
-            if (BoxInt(0, 0, width(), height()).contains(e.pos()) && action_) action_();
+            if (BoxInt(0, 0, width(), height()).contains(e.pos()) && action_) action_(this);
             return 1;
         }
         return 0;
@@ -57,11 +68,12 @@ public:
 
 private:
     Glyph glyph_;
-    std::function<void()> action_;
+    std::function<void(Glob*)> action_;
     bool hot_ = false;
 };
 
-constexpr int kFurnitureBits = StandardPanel::kCloseBox | StandardPanel::kPinButton | StandardPanel::kFlipSizeButton;
+constexpr int kFurnitureBits =
+    StandardPanel::kCloseBox | StandardPanel::kCogsButton | StandardPanel::kFlipSizeButton | StandardPanel::kDoItButton | StandardPanel::kPinButton;
 
 } // namespace
 
@@ -70,13 +82,15 @@ StandardPanel::StandardPanel(const InitArgs& args) : Glob(args), border_(args.bo
 StandardPanel::StandardPanel(unsigned short width, unsigned short height) : StandardPanel(InitArgs(width, height)) {}
 
 StandardPanel::StandardPanel(unsigned short width, unsigned short height, const Palette& palette, bool child, Canvas* canvas)
-    : StandardPanel(InitArgs(GlobCreationInfo(width, height, palette, child, canvas), Border(Border::kNone, 0, 15))) {}
+    : StandardPanel(InitArgs(GlobCreationInfo(width, height, palette, child, canvas), Border(Border::kNoBorder, 0, 15))) {}
 
 StandardPanel::~StandardPanel() = default;
 
 // ---- border, title, furniture -----------------------------------------------
 
-Border StandardPanel::getDefaultBorder() { return Border(Border::kRaised, static_cast<unsigned short>(UifStd::instance().getBorderWidth()), 15); }
+Border StandardPanel::getDefaultBorder() {
+    return Border(Border::kSquarePanelBorder, static_cast<unsigned short>(UifStd::instance().getBorderWidth()), 15);
+}
 
 void StandardPanel::setBorder(const Border& b) {
     border_ = b;
@@ -98,7 +112,7 @@ void StandardPanel::setTitle(const UIString& title, const Glib::FontDesc& font, 
     if (flag == kRedraw) redraw();
 }
 
-bool StandardPanel::hasTitleBar() const { return !title_.empty() || (standardWidgets_ & (kFurnitureBits | kMoveByTitle)); }
+bool StandardPanel::hasTitleBar() const { return !title_.empty() || (standardWidgets_ & (kFurnitureBits | kTitleBar)); }
 
 BoxInt StandardPanel::titleBarBox() const {
     if (!hasTitleBar()) return {};
@@ -117,13 +131,16 @@ void StandardPanel::addStandardWidgets(int bits) {
     int h = UifStd::instance().getTitleHeight();
     int box = h - 2 * UifStd::instance().getRowGap();
     GlobCreationInfo info(static_cast<unsigned short>(box), static_cast<unsigned short>(box), getPalette(), true, canvas());
-    auto add = [&](FurnitureButton::Glyph g, std::function<void()> action) {
+    auto add = [&](FurnitureButton::Glyph g, std::function<void(Glob*)> action) {
         furniture_.push_back(new FurnitureButton(info, g, std::move(action)));
         addChild(furniture_.back(), TopRight(0, 0));
     };
-    if (standardWidgets_ & kCloseBox) add(FurnitureButton::kClose, [this] { handlePoot(); });
-    if (standardWidgets_ & kPinButton) add(FurnitureButton::kPin, [this] { handlePinned(!pinned_); });
-    if (standardWidgets_ & kFlipSizeButton) add(FurnitureButton::kFlip, [this] { handleFlipSize(); });
+    if (standardWidgets_ & kCloseBox) add(FurnitureButton::kClose, [this](Glob*) { handlePoot(); });
+    if (standardWidgets_ & kCogsButton)
+        add(FurnitureButton::kCogs, [this](Glob* cogs) { makeMenu(Event::mouse(Event::kMouseDown, cogs->screenPos(), Event::kLeft)); });
+    if (standardWidgets_ & kFlipSizeButton) add(FurnitureButton::kFlip, [this](Glob*) { handleFlipSize(); });
+    if (standardWidgets_ & kDoItButton) add(FurnitureButton::kDoIt, [this](Glob* button) { sendMessage(doItMsg, this, button); });
+    if (standardWidgets_ & kPinButton) add(FurnitureButton::kPin, [this](Glob*) { handlePinned(!pinned_); });
     if (standardWidgets_ & kResizeGrip) {
         GlobCreationInfo grip(info, static_cast<unsigned short>(h / 2), static_cast<unsigned short>(h / 2));
         furniture_.push_back(new FurnitureButton(grip, FurnitureButton::kGrip, {}));
@@ -131,7 +148,7 @@ void StandardPanel::addStandardWidgets(int bits) {
         addChild(furniture_.back(), BottomRight(0, 0));
         setResizable(true);
     }
-    if (standardWidgets_ & kMoveByTitle) setMovable(true);
+    if (standardWidgets_ & kTitleBar) setMovable(true);
     if (hadBar != hasTitleBar()) calcAbsoluteWidgetPositions();
     layoutFurniture();
 }
@@ -140,7 +157,7 @@ void StandardPanel::removeStandardWidgets(int bits, bool redrawNow) {
     int keep = standardWidgets_ & ~bits;
     standardWidgets_ = 0;
     addStandardWidgets(keep);
-    if (!(keep & kMoveByTitle)) setMovable(false);
+    if (!(keep & kTitleBar)) setMovable(false);
     if (!(keep & kResizeGrip)) setResizable(false);
     if (redrawNow) redraw();
 }
@@ -189,7 +206,7 @@ BoxInt StandardPanel::getUserArea() const {
 }
 
 BoxInt StandardPanel::getUserAreaBorders(int standardWidgets, const Border& border) {
-    int title = (standardWidgets & (kFurnitureBits | kMoveByTitle)) ? UifStd::instance().getTitleHeight() : 0;
+    int title = (standardWidgets & (kFurnitureBits | kTitleBar)) ? UifStd::instance().getTitleHeight() : 0;
     return BoxInt(border.left(), border.bottom(), border.right(), border.top() + title);
 }
 
@@ -245,17 +262,36 @@ void StandardPanel::drawTitleSeparator() {
 }
 
 void StandardPanel::drawBorder() {
-    if (border_.type() == Border::kNone || border_.size() == 0) return;
+    const Border::eType type = border_.type();
+    if (type == Border::kNoBorder || border_.size() == 0) return;
+    const Palette& p = getPalette();
     CanvasRenderer r(canvas());
-    Colour light = getPalette().window(kShadeLightest), dark = getPalette().window(kShadeDarkest);
-    Colour topLeft = border_.type() == Border::kSunken ? dark : light;
-    Colour bottomRight = border_.type() == Border::kSunken ? light : dark;
-    if (border_.type() == Border::kLine) topLeft = bottomRight = getPalette().window(kShadeDarkest);
-    int w = width(), h = height();
+    const int w = width(), h = height();
+    if (type == Border::kCurvedPanelBorder || type == Border::kDarkenedRoundedRect) {
+        Glib::RectDescription ring(BoxInt(0, 0, w, h), Colour());
+        ring.filled = false;
+        ring.outline = p.window(type == Border::kCurvedPanelBorder ? kShadeDarker : kShadeDarkest);
+        ring.outlineWidth = border_.size();
+        ring.cornerRadius = 3.0 * border_.size();
+        r.render(ring);
+        return;
+    }
+    Colour topLeft = p.window(kShadeLightest), bottomRight = p.window(kShadeDarkest);
+    if (type == Border::kSunkenBorder) std::swap(topLeft, bottomRight);
+    if (type == Border::kMenuBorder) topLeft = bottomRight = p.window(kShadeDarkest);
+    if (type == Border::kDropMenuBorder) topLeft = bottomRight = p.window(kShadeDarker);
+    if (type == Border::kLineBorder) topLeft = bottomRight = p.text();
     if (border_.left()) r.render(Glib::RectDescription(BoxInt(0, 0, border_.left(), h), topLeft));
     if (border_.top()) r.render(Glib::RectDescription(BoxInt(0, h - border_.top(), w, h), topLeft));
     if (border_.right()) r.render(Glib::RectDescription(BoxInt(w - border_.right(), 0, w, h), bottomRight));
     if (border_.bottom()) r.render(Glib::RectDescription(BoxInt(0, 0, w, border_.bottom()), bottomRight));
+    if (type == Border::kDialogueBorder) {
+        Glib::RectDescription line(BoxInt(0, 0, w, h), Colour());
+        line.filled = false;
+        line.outline = p.window(kShadeDarkest);
+        line.outlineWidth = 1.0;
+        r.render(line);
+    }
 }
 
 // ---- events -----------------------------------------------------------------
@@ -270,7 +306,7 @@ int StandardPanel::react(const Event& e) {
     case Event::kKeyPress: {
         modifiers_ = e.modifiers();
         if (int r = handleKeyboardEvent(e.keyCode())) return r;
-        if (e.keyCode() == Keys::Tab && tabOrder_.size())
+        if (Keys::plain(e.keyCode()) == Keys::Tab && tabOrder_.size())
             return (e.modifiers() & Modifiers::Shift) ? tabOrder_.decrementTabStop() : tabOrder_.incrementTabStop();
         return 0;
     }

@@ -12,14 +12,26 @@
 class StandardPanel : public Glob, public Glib::FontUser, public MenuGlob {
 public:
     struct InitArgs : GlobCreationInfo {
-        Border border{Border::kNone, 0, 15};
+        Border border{Border::kNoBorder, 0, 15};
         InitArgs() = default;
         InitArgs(unsigned short w, unsigned short h) : GlobCreationInfo(w, h) {}
         InitArgs(const GlobCreationInfo& info, const Border& b) : GlobCreationInfo(info), border(b) {}
     };
 
-    // Furniture bits of addStandardWidgets.
-    enum StandardWidgets : int { kCloseBox = 1, kPinButton = 2, kFlipSizeButton = 4, kResizeGrip = 8, kMoveByTitle = 32 };
+    // Furniture bits of addStandardWidgets (NUMBERS.md). The buttons sit in the title
+    // bar: the close box calls handlePoot, the cogs open the panel's menu, the flip
+    // button handleFlipSize, the do-it button posts doItMsg to the panel, the pin
+    // handlePinned. kTitleBar gives a title bar even with no title, and the panel
+    // moves by it; the grip at the bottom right resizes the panel.
+    enum StandardWidgets : int {
+        kCloseBox = 1,
+        kCogsButton = 2,
+        kFlipSizeButton = 4,
+        kDoItButton = 8,
+        kPinButton = 16,
+        kTitleBar = 32,
+        kResizeGrip = 0x80,
+    };
     enum eSpacing { kCompact = 0, kNormal = 1, kSpacious = 2 };
     // The name of the message that a panel's main action sends.
     static constexpr const char* doItMsg = "doIt";

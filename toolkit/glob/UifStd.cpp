@@ -38,6 +38,4 @@ Glib::FontDesc UifStd::getMonospaceFont() const { return Glib::FontDesc("", 0, G
 
 XY<int> UifStd::measure(const UIString& text) const { return measure(text.getString(), getDefaultFont()); }
 
-XY<int> UifStd::measure(const LightweightString<wchar_t>& text, const Glib::FontDesc& font) const {
-    return Glib::measureText(text, font);
-}
+XY<int> UifStd::measure(const LightweightString<wchar_t>& text, const Glib::FontDesc& font) const { return Glib::measureText(text, font); }

@@ -1,15 +1,18 @@
 #include "WidgetPosition.h"
 
+#include "core/enumFromInt.h"
+
 #include <array>
 
 namespace {
 
+// In the order of the enumerations, so that a name's index is its number.
 const std::array<const char*, 18> kOriginNames = {
-    "SiblingRelative", "BottomLeft",      "BottomRight",  "TopLeft",       "TopRight",          "Centre",
-    "LeftCentre",      "RightCentre",     "BottomCentre", "TopCentre",     "UserBottomLeft",    "UserBottomRight",
-    "UserTopLeft",     "UserTopRight",    "UserCentre",   "UserBottomCentre", "UserTopCentre", "None",
+    "SiblingRelative", "BottomLeft",   "TopLeft",         "TopRight",         "BottomRight",   "UserBottomLeft",
+    "UserTopLeft",     "UserTopRight", "UserBottomRight", "Centre",           "LeftCentre",    "RightCentre",
+    "BottomCentre",    "TopCentre",    "UserCentre",      "UserBottomCentre", "UserTopCentre", "None",
 };
-const std::array<const char*, 5> kRelativityNames = {"Above", "Below", "LeftOf", "RightOf", "None"};
+const std::array<const char*, 5> kRelativityNames = {"None", "LeftOf", "RightOf", "Above", "Below"};
 
 // Aligns a length `len` along [lo, hi) as `a` says.
 int align(int len, int lo, int hi, eWidgetAlignment a) {
@@ -20,8 +23,21 @@ int align(int len, int lo, int hi, eWidgetAlignment a) {
     }
 }
 
-// Places `size` inside `area` by a corner, edge or centre code of the plain family
-// (kBottomLeft .. kTopCentre).
+// The plain form of a User origin; any other origin stays as it is.
+eCoordinateOrigin wholeAreaForm(eCoordinateOrigin o) {
+    switch (o) {
+    case kUserBottomLeft: return kBottomLeft;
+    case kUserTopLeft: return kTopLeft;
+    case kUserTopRight: return kTopRight;
+    case kUserBottomRight: return kBottomRight;
+    case kUserCentre: return kCentre;
+    case kUserBottomCentre: return kBottomCentre;
+    case kUserTopCentre: return kTopCentre;
+    default: return o;
+    }
+}
+
+// Places `size` inside `area` by a corner, edge or centre code of the plain family.
 BoxInt placeIn(eCoordinateOrigin o, XY<int> off, XY<int> size, const BoxInt& area) {
     int left = area.x1 + off.x, right = area.x2 - off.x - size.x;
     int bottom = area.y1 + off.y, top = area.y2 - off.y - size.y;
@@ -43,6 +59,16 @@ BoxInt placeIn(eCoordinateOrigin o, XY<int> off, XY<int> size, const BoxInt& are
 
 } // namespace
 
+eWidgetRelativity oppositeSide(eWidgetRelativity side) {
+    switch (side) {
+    case kLeftOf: return kRightOf;
+    case kRightOf: return kLeftOf;
+    case kAbove: return kBelow;
+    case kBelow: return kAbove;
+    default: return kNoRelativity;
+    }
+}
+
 BoxInt placeBeside(XY<int> size, const BoxInt& s, const SiblingRelativePosition& rel) {
     XY<int> p;
     switch (rel.relativity) {
@@ -60,10 +86,7 @@ BoxInt WidgetPosition::resolve(XY<int> size, XY<int> parentSize, const BoxInt& u
         // With no earlier sibling, a relative child starts at the top left of the user area.
         return sibling ? placeBeside(size, *sibling, relative) : placeIn(kTopLeft, {}, size, userArea);
     }
-    if (origin >= kUserBottomLeft && origin <= kUserTopCentre) {
-        static const eCoordinateOrigin plain[] = {kBottomLeft, kBottomRight, kTopLeft, kTopRight, kCentre, kBottomCentre, kTopCentre};
-        return placeIn(plain[origin - kUserBottomLeft], offset, size, userArea);
-    }
+    if (eCoordinateOrigin plain = wholeAreaForm(origin); plain != origin) return placeIn(plain, offset, size, userArea);
     if (origin == kNoPosition) {
         // No position asked for: centred in the parent, the odd pixel to the bottom left margin.
         auto half = [](int spare) { return spare > 0 ? (spare + 1) / 2 : spare / 2; };
@@ -93,3 +116,9 @@ eWidgetRelativity WidgetRelativityFromString(const LightweightString<char>& text
         if (text == kRelativityNames[i]) return static_cast<eWidgetRelativity>(i);
     return kNoRelativity;
 }
+
+eCoordinateOrigin CoordinateOriginFromInt(int value) { return enumFromInt(value, kSiblingRelative, kNoPosition, kNoPosition); }
+
+eWidgetRelativity WidgetRelativityFromInt(int value) { return enumFromInt(value, kNoRelativity, kBelow, kNoRelativity); }
+
+eWidgetAlignment WidgetAlignmentFromInt(int value) { return enumFromInt(value, kAlignNone, kAlignEnd, kAlignNone); }

@@ -9,34 +9,37 @@ class Glob;
 // centres a child in its parent and lets a top-level glob go where the manager puts it. The
 // plain forms are relative to the parent's whole area, the User forms to its user
 // area (inside the border and title). Offsets count inward from the named corner or
-// edge; the centred forms add the offset to the centred place.
+// edge; the centred forms add the offset to the centred place. The numbers are part
+// of the toolkit's contract (NUMBERS.md): corners run clockwise from the bottom left,
+// first of the whole area, then of the user area.
 enum eCoordinateOrigin {
     kSiblingRelative = 0,
     kBottomLeft = 1,
-    kBottomRight = 2,
-    kTopLeft = 3,
-    kTopRight = 4,
-    kCentre = 5,
-    kLeftCentre = 6,
-    kRightCentre = 7,
-    kBottomCentre = 8,
-    kTopCentre = 9,
-    kUserBottomLeft = 10,
-    kUserBottomRight = 11,
-    kUserTopLeft = 12,
-    kUserTopRight = 13,
+    kTopLeft = 2,
+    kTopRight = 3,
+    kBottomRight = 4,
+    kUserBottomLeft = 5,
+    kUserTopLeft = 6,
+    kUserTopRight = 7,
+    kUserBottomRight = 8,
+    kCentre = 9,
+    kLeftCentre = 10,
+    kRightCentre = 11,
+    kBottomCentre = 12,
+    kTopCentre = 13,
     kUserCentre = 14,
     kUserBottomCentre = 15,
     kUserTopCentre = 16,
     kNoPosition = 17,
 };
 
-// 4 says no side was chosen.
-enum eWidgetRelativity { kAbove = 0, kBelow = 1, kLeftOf = 2, kRightOf = 3, kNoRelativity = 4 };
+// The side of a sibling a child goes on; 0 says no side was chosen.
+enum eWidgetRelativity { kNoRelativity = 0, kLeftOf = 1, kRightOf = 2, kAbove = 3, kBelow = 4 };
 
-// For Above and Below: 0 lines up left edges, 1 centres, 2 lines up right edges.
-// For LeftOf and RightOf: 0 lines up bottom edges, 1 centres, 2 lines up top edges.
-enum eWidgetAlignment { kAlignStart = 0, kAlignCentre = 1, kAlignEnd = 2 };
+// For Above and Below: start lines up left edges, centre centres, end lines up right edges.
+// For LeftOf and RightOf: start lines up bottom edges, end top edges. 0 asks for
+// nothing in particular and lines up the start edges.
+enum eWidgetAlignment { kAlignNone = 0, kAlignStart = 1, kAlignCentre = 2, kAlignEnd = 3 };
 
 struct SiblingRelativePosition {
     eWidgetRelativity relativity = kBelow;
@@ -60,6 +63,9 @@ struct WidgetPosition {
     BoxInt resolve(XY<int> size, XY<int> parentSize, const BoxInt& userArea, const BoxInt* sibling) const;
 };
 
+// The side across from `side`: Above for Below, LeftOf for RightOf; kNoRelativity stays.
+eWidgetRelativity oppositeSide(eWidgetRelativity side);
+
 // Places a box of `size` beside `sibling` as `rel` says.
 BoxInt placeBeside(XY<int> size, const BoxInt& sibling, const SiblingRelativePosition& rel);
 
@@ -68,3 +74,8 @@ LightweightString<char> asString(eWidgetRelativity relativity);
 // Unknown words give kNoPosition and kNoRelativity.
 eCoordinateOrigin CoordinateOriginFromString(const LightweightString<char>& text);
 eWidgetRelativity WidgetRelativityFromString(const LightweightString<char>& text);
+// A number from outside as an enumerator; a number that names none gives
+// kNoPosition, kNoRelativity and kAlignNone.
+eCoordinateOrigin CoordinateOriginFromInt(int value);
+eWidgetRelativity WidgetRelativityFromInt(int value);
+eWidgetAlignment WidgetAlignmentFromInt(int value);

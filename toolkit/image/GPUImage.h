@@ -1,7 +1,7 @@
 #pragma once
 
-#include "iGPUImage.h"
 #include "core/Ptr.h"
+#include "iGPUImage.h"
 
 // The GPU image of this platform: a host image's pixels behind the GPU interface.
 class GPUImage : public iGPUImage {

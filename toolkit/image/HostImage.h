@@ -1,8 +1,8 @@
 #pragma once
 
-#include "iHostImage.h"
 #include "core/LightweightString.h"
 #include "core/Ptr.h"
+#include "iHostImage.h"
 
 // A host image held in a Cairo image surface.
 class HostImage : public iHostImage {

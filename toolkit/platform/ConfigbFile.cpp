@@ -41,6 +41,15 @@ bool ConfigbFile::fromText(const LightweightString<char>& text, configb& config)
     return true;
 }
 
+bool ConfigbFile::isStore(const LightweightString<char>& text) {
+    Json doc = Json::parse(text.str(), nullptr, false);
+    if (doc.is_discarded() || !doc.is_object()) return false;
+    ConfigEntryT entry;
+    for (const auto& member : doc)
+        if (!readEntry(member, entry)) return false;
+    return true;
+}
+
 bool ConfigbFile::save(const configb& config, const LightweightString<wchar_t>& path) {
     if (path.empty()) return false;
     return writeFileAtomically(toUTF8(path), toText(config).str());

@@ -15,6 +15,10 @@ public:
     // Replaces the entries of `config` with those of the text. False, with `config`
     // untouched, when the text is not a JSON object.
     static bool fromText(const LightweightString<char>& text, configb& config);
+    // True when the text is a store and nothing else: a JSON object whose every
+    // member is an entry, as toText writes. A program about to write a store over
+    // a file it was given checks that the file held one.
+    static bool isStore(const LightweightString<char>& text);
 
     // Writes through a temporary file renamed over the old one, so a failed save
     // leaves the old file whole. False when the file could not be written.

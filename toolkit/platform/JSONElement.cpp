@@ -44,7 +44,9 @@ bool Element::getBool(const char* key, bool fallback) const {
     return fallback;
 }
 
-LightweightString<char> Element::getString(unsigned short index) const { return index < strings_.size() ? strings_[index].value : LightweightString<char>(); }
+LightweightString<char> Element::getString(unsigned short index) const {
+    return index < strings_.size() ? strings_[index].value : LightweightString<char>();
+}
 
 LightweightString<char> Element::getStringAttribName(unsigned short index) const {
     return index < strings_.size() ? strings_[index].name : LightweightString<char>();

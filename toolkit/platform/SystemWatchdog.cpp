@@ -22,8 +22,7 @@ void SystemWatchdog::beginLifeSupport() {
 
 void SystemWatchdog::endLifeSupport() {
     int depth = lifeSupport.load(std::memory_order_relaxed);
-    while (depth > 0 && !lifeSupport.compare_exchange_weak(depth, depth - 1, std::memory_order_relaxed)) {
-    }
+    while (depth > 0 && !lifeSupport.compare_exchange_weak(depth, depth - 1, std::memory_order_relaxed)) {}
     heartbeat();
 }
 

@@ -12,12 +12,10 @@ void LoggerBase::setIndentLevel(unsigned short level) { indent_.store(level, std
 
 void LoggerBase::decIndent() {
     unsigned short level = indent_.load(std::memory_order_relaxed);
-    while (level > 0 && !indent_.compare_exchange_weak(level, static_cast<unsigned short>(level - 1), std::memory_order_relaxed)) {
-    }
+    while (level > 0 && !indent_.compare_exchange_weak(level, static_cast<unsigned short>(level - 1), std::memory_order_relaxed)) {}
 }
 
 void LoggerBase::incIndent() {
     unsigned short level = indent_.load(std::memory_order_relaxed);
-    while (level < 0xFFFF && !indent_.compare_exchange_weak(level, static_cast<unsigned short>(level + 1), std::memory_order_relaxed)) {
-    }
+    while (level < 0xFFFF && !indent_.compare_exchange_weak(level, static_cast<unsigned short>(level + 1), std::memory_order_relaxed)) {}
 }

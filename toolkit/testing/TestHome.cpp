@@ -39,8 +39,11 @@ void TestHome::SetUp() {
     std::string pattern = (fs::temp_directory_path() / "mosaic-home-XXXXXX").string();
     if (!mkdtemp(pattern.data())) FAIL() << "no temporary folder for the tests' home: " << pattern;
     current() = pattern;
-    for (auto [var, sub] : {std::pair{"HOME", "user"}, {"MOSAIC_HOME", "mosaic"}, {"XDG_CONFIG_HOME", "config"},
-                            {"XDG_DATA_HOME", "data"}, {"XDG_STATE_HOME", "state"}}) {
+    for (auto [var, sub] : {std::pair{"HOME", "user"},
+                            {"MOSAIC_HOME", "mosaic"},
+                            {"XDG_CONFIG_HOME", "config"},
+                            {"XDG_DATA_HOME", "data"},
+                            {"XDG_STATE_HOME", "state"}}) {
         fs::create_directories(current() / sub);
         setenv(var, (current() / sub).c_str(), 1);
     }

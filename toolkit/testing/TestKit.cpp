@@ -4,10 +4,14 @@
 #include "draw/Screen.h"
 #include "glob/GlobManager.h"
 #include "glob/InputDispatcher.h"
+#include "image/iHostImage.h"
 
+#include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <sstream>
+#include <sys/wait.h>
 
 namespace TestKit {
 
@@ -140,6 +144,28 @@ int inkPixels(const Glob* g, const BoxInt& box, std::uint32_t background, int to
     return n;
 }
 
+int countPixels(const iHostImage& picture, const BoxInt& box, const Colour& colour, int tolerance) {
+    const std::uint32_t opaque = 0xFF000000u, want = argb(colour) | opaque;
+    const XY<int> size = picture.getSize();
+    int n = 0;
+    for (int y = std::max(0, box.y1); y < std::min(size.y, box.y2); ++y) {
+        const auto* row = reinterpret_cast<const std::uint32_t*>(picture.data() + static_cast<std::ptrdiff_t>(size.y - 1 - y) * picture.stride());
+        for (int x = std::max(0, box.x1); x < std::min(size.x, box.x2); ++x) n += near(row[x] | opaque, want, tolerance);
+    }
+    return n;
+}
+
+ProgramRun runProgram(const std::string& commandLine) {
+    ProgramRun run;
+    FILE* pipe = ::popen(commandLine.c_str(), "r");
+    if (!pipe) return run;
+    char buffer[4096];
+    for (std::size_t n; (n = std::fread(buffer, 1, sizeof buffer, pipe)) > 0;) run.output.append(buffer, n);
+    const int status = ::pclose(pipe);
+    run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return run;
+}
+
 ::testing::AssertionResult pixelNear(const Glob* g, int x, int y, std::uint32_t expected, int tolerance) {
     std::uint32_t got = globPixel(g, x, y);
     if (near(got, expected, tolerance)) return ::testing::AssertionSuccess();
@@ -149,8 +175,8 @@ int inkPixels(const Glob* g, const BoxInt& box, std::uint32_t background, int to
         std::string canvasShot = (std::filesystem::path(shot.str()).parent_path() / (base + "_canvas.png")).string();
         writeCanvasPNG(*g->canvas(), canvasShot.c_str());
     }
-    return ::testing::AssertionFailure() << "pixel (" << x << ", " << y << ") of " << (g ? g->idstring() : "null") << " is "
-                                         << hex(got) << ", expected " << hex(expected) << "; screen saved to " << shot.str();
+    return ::testing::AssertionFailure() << "pixel (" << x << ", " << y << ") of " << (g ? g->idstring() : "null") << " is " << hex(got)
+                                         << ", expected " << hex(expected) << "; screen saved to " << shot.str();
 }
 
 ::testing::AssertionResult screenPixelNear(int x, int y, std::uint32_t expected, int tolerance) {

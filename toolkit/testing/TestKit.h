@@ -6,6 +6,9 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <string>
+
+class iHostImage;
 
 // Drives the toolkit headless in tests: pumps the event loop, injects input at
 // screen coordinates, reads painted pixels, and saves the screen as a PNG when a
@@ -53,6 +56,9 @@ bool similar(std::uint32_t a, std::uint32_t b, int tolerance);
 int countPixels(const Glob* g, const BoxInt& box, const Colour& colour, int tolerance = 0);
 // How many pixels of `box` differ from `background` by more than `tolerance`: ink.
 int inkPixels(const Glob* g, const BoxInt& box, std::uint32_t background, int tolerance = 40);
+// The same in a picture, such as a program's screenshot read back, with `box`
+// counted from the picture's bottom left as the screen counts.
+int countPixels(const iHostImage& picture, const BoxInt& box, const Colour& colour, int tolerance = 0);
 
 // Passes when the glob's pixel is within `tolerance` per channel of `expected`;
 // on failure the screen and the glob's canvas are written out as PNG files.
@@ -66,6 +72,13 @@ class ScreenTest : public ::testing::Test {
 protected:
     void TearDown() override { reset(); }
 };
+// A program run by a test: its exit status (-1 when it did not exit) and what it
+// wrote on standard output.
+struct ProgramRun {
+    int status = -1;
+    std::string output;
+};
+ProgramRun runProgram(const std::string& commandLine);
 
 // Owns a top-level glob for the length of a test.
 template <class T>

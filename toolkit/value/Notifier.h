@@ -10,7 +10,8 @@
 class Notifier : public GenericNotifier<NotifyMsg> {
 public:
     ~Notifier() override;
-    Zn::Ptr<Zn::Guard> addListener(const Zn::Ptr<iCallbackBase<int, NotifyMsg>>& callback, int type = NotifyMsgTypeDictionary::instance().allMsgType) {
+    Zn::Ptr<Zn::Guard> addListener(const Zn::Ptr<iCallbackBase<int, NotifyMsg>>& callback,
+                                   int type = NotifyMsgTypeDictionary::instance().allMsgType) {
         return registerCallback(callback, type);
     }
 };

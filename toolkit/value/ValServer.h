@@ -6,10 +6,10 @@
 #include "ValManagerBase.h"
 #include "ValServerBase.h"
 #include "ValueSlot.h"
-#include "valEqualsVal.h"
 #include "core/ColourData.h"
 #include "core/LightweightString.h"
 #include "core/NormalisedRGB.h"
+#include "valEqualsVal.h"
 
 #include <mutex>
 
@@ -42,8 +42,10 @@ public:
         return *this;
     }
     virtual ValServer& operator=(const ValServer& other) {
-        if (&other != this) updateAndNotify(other.value());
-        else updateAndNotify(value());
+        if (&other != this)
+            updateAndNotify(other.value());
+        else
+            updateAndNotify(value());
         return *this;
     }
     virtual bool operator==(const ValServer& other) const { return valEqualsVal(value(), other.value()); }

@@ -131,3 +131,16 @@ TEST_F(LoggerFixture, ButtonsLieRightToLeftByDefaultAndKeepTheTableClearOfThem) 
     l->setButtonActive(7, false, kNoRedraw);
     EXPECT_TRUE(stop->isActive()) << "an index past the buttons changes none";
 }
+
+TEST_F(LoggerFixture, FlagsLeaveOutTheCloseBoxOrTheGripAndCanForbidResizing) {
+    const int full = StandardPanel::kTitleBar | StandardPanel::kCloseBox | StandardPanel::kResizeGrip;
+    Logger* plain = make();
+    EXPECT_EQ(plain->standardWidgets(), full);
+    EXPECT_TRUE(plain->isMovable());
+    EXPECT_TRUE(plain->isResizable());
+    EXPECT_EQ(make(Logger::kNoCloseBox)->standardWidgets(), full & ~StandardPanel::kCloseBox);
+    Logger* gripless = make(Logger::kNoResizeGrip);
+    EXPECT_EQ(gripless->standardWidgets(), full & ~StandardPanel::kResizeGrip);
+    EXPECT_FALSE(gripless->isResizable());
+    EXPECT_FALSE(make(Logger::kNotResizable)->isResizable()) << "even with its grip";
+}

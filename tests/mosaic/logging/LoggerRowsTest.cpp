@@ -54,9 +54,10 @@ TEST_F(LoggerFixture, HeadingsGetOneBlankRowBeforeThemAndResizeTheRowsAfterThem)
 TEST_F(LoggerFixture, RowsTakeTheColourOfTheirKindAndLinksShowTheirDescription) {
     Logger* l = make();
     const Palette& p = l->getPalette();
-    const LB::eOutputType kinds[] = {LB::otNormal, LB::otQuiet, LB::otWarning, LB::otEmphasis, LB::otError, LB::otHyperLink,
-                                     LB::otSuccess, static_cast<LB::eOutputType>(42)};
-    const Colour want[] = {p.text(0), p.text(0), Colour(1.0, 1.0, 0.0), p.text(1), p.warning(), p.text(0), Colour(0.1, 0.7, 0.3), p.text(0)};
+    const LB::eOutputType kinds[] = {LB::otNormal, LB::otQuiet,     LB::otWarning, LB::otEmphasis,
+                                     LB::otError,  LB::otHyperLink, LB::otSuccess, static_cast<LB::eOutputType>(42)};
+    const Colour want[] = {p.text(kTextNormal), p.text(kTextNormal), Colour(1.0, 1.0, 0.0), p.text(kTextDimmed),
+                           p.warning(),         p.text(kTextNormal), Colour(0.1, 0.7, 0.3), p.text(kTextNormal)};
     for (auto k : kinds) put(l, L"row", k);
     for (std::size_t i = 0; i < std::size(kinds); ++i) EXPECT_EQ(l->rows()[i].textColour, want[i]) << "kind " << kinds[i];
     LB::HyperLink link({L"/media/a.mov", L"/media/b.mov"}, L"Two clips");
@@ -208,7 +209,8 @@ TEST_F(LoggerFixture, TheGaugeSitsOneIndentInsideThePanelWithClearSpaceBelowTheT
         // How many pixels from `from` on, a step of `step` at a time, keep to one side of the panel's colour.
         auto run = [&](XY<int> from, XY<int> step, bool panel) {
             int n = 0;
-            for (XY<int> p = from; p.x >= user.x1 && p.x < user.x2 && p.y >= user.y1 && p.y < user.y2 && (TestKit::globPixel(l, p.x, p.y) == back) == panel;
+            for (XY<int> p = from;
+                 p.x >= user.x1 && p.x < user.x2 && p.y >= user.y1 && p.y < user.y2 && (TestKit::globPixel(l, p.x, p.y) == back) == panel;
                  p.x += step.x, p.y += step.y)
                 ++n;
             return n;

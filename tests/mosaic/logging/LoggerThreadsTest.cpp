@@ -11,7 +11,8 @@ TEST_F(LoggerFixture, FourWritersOnOneLogReachTheShowingPanelOnceEachInTheirOwnO
     std::vector<std::thread> writers;
     for (int w = 0; w < kWriters; ++w)
         writers.emplace_back([&log, &finished, w] {
-            for (int i = 0; i < kItems; ++i) log->write(LightweightString<wchar_t>(std::to_wstring(w) + L" " + std::to_wstring(i)), LoggerBase::otNormal);
+            for (int i = 0; i < kItems; ++i)
+                log->write(LightweightString<wchar_t>(std::to_wstring(w) + L" " + std::to_wstring(i)), LoggerBase::otNormal);
             ++finished;
         });
     // The panel takes rows in while the writers are still at work.

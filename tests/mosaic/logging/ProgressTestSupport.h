@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-
 // Progress displays under a test clock. Each test starts at a time of its own, far
 // from the others, so that what one display remembers of the last update never
 // falls within another test's 10 ms.

@@ -62,8 +62,7 @@ protected:
         order = Zn::Ptr<SliderShowsWhenHeard>(new SliderShowsWhenHeard(slider->shows));
         steps.addChangeHandler(order);
         slider->setDataAdaptor(Zn::Ptr<ValAdaptorBase<double>>(new ValAdaptor<double, int>(&steps.server())));
-        box->setDataAdaptor(Zn::Ptr<ValAdaptorBase<LightweightString<wchar_t>>>(
-            new ValAdaptor<LightweightString<wchar_t>, int>(&steps.server())));
+        box->setDataAdaptor(Zn::Ptr<ValAdaptorBase<LightweightString<wchar_t>>>(new ValAdaptor<LightweightString<wchar_t>, int>(&steps.server())));
         TestKit::pump();
         box->shows = 0; // binding shows the box the stored value once
     }

@@ -130,8 +130,8 @@ TEST(ParamsState, RestoringFromTextThatHoldsNoStoreChangesNothing) {
     const Strings before = panel.values();
     panel.heard.clear();
 
-    const std::vector<LightweightString<char>> unusable = {"", "garbage", "{", "[]", "\x01\x02\xFF", text.substr(0, text.size() / 3),
-                                                           text.substr(0, text.size() - 2)};
+    const std::vector<LightweightString<char>> unusable = {
+        "", "garbage", "{", "[]", "\x01\x02\xFF", text.substr(0, text.size() / 3), text.substr(0, text.size() - 2)};
     for (const auto& bad : unusable) {
         configb config;
         EXPECT_FALSE(ConfigbFile::fromText(bad, config));

@@ -212,7 +212,8 @@ TEST_F(UIBuilderJSON, EveryTypeReadsItsKeysAndMissingKeysTakeTheirDefaults) {
 
     int headings = 0;
     for (Glob* child : panel->getChildren())
-        if (auto* heading = dynamic_cast<TextLabel*>(child)) headings += heading->getText().getString() == L"A heading" || heading->getText().getString() == L"Another heading";
+        if (auto* heading = dynamic_cast<TextLabel*>(child))
+            headings += heading->getText().getString() == L"A heading" || heading->getText().getString() == L"Another heading";
     EXPECT_EQ(headings, 2);
 
     auto tooltip = [](const char* json) { return UIBuilder::getTooltip(JSON::parse(LightweightString<char>(json))); };
@@ -243,7 +244,8 @@ TEST_F(UIBuilderJSON, AlternativesFoldOnlyBelowTheFirstRow) {
       {"type": "bool", "name": "a", "legend": "A", "visible if": "m=1"},
       {"type": "bool", "name": "b", "legend": "B", "visible if": "m=2"},
       {"type": "int", "name": "m", "values": {"One": 1, "Two": 2}}
-    ]})", top);
+    ]})",
+                     top);
     EXPECT_EQ(top->height(), 200) << "a group that starts at the first element is not folded";
     EXPECT_LT(set->getWidget("b")->getY(), set->getWidget("a")->getY());
     EXPECT_TRUE(set->getWidget("a")->isVisible());
@@ -255,7 +257,8 @@ TEST_F(UIBuilderJSON, AlternativesFoldOnlyBelowTheFirstRow) {
       {"type": "int", "name": "m", "values": {"One": 1, "Two": 2}},
       {"type": "bool", "name": "a", "visible if": "m=1"},
       {"type": "bool", "name": "b", "visible if": "m=1"}
-    ]})", same);
+    ]})",
+          same);
     EXPECT_EQ(same->height(), 200);
 }
 
@@ -281,7 +284,8 @@ TEST_F(UIBuilderJSON, BadDescriptionsBuildLessAndNeverFail) {
       {"type": "bool", "name": "x", "legend": "X"},
       {"type": "bool", "name": "x", "legend": "X again"},
       {"type": "int", "name": "n", "min": 0, "max": 10, "default": 3, "active if": "ghost=1", "must not be lower than": "ghost", "visible if": "ghost=1"}
-    ]})", makePanel(200));
+    ]})",
+                     makePanel(200));
     ASSERT_EQ(odd->params().size(), 3u) << "both rows of a duplicate id are made";
     EXPECT_TRUE(sliderOf(odd->getWidget("n"))->isActive());
     EXPECT_TRUE(odd->getWidget("n")->isVisible()) << "a visible-if on nothing is dropped";

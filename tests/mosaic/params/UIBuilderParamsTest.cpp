@@ -1,10 +1,10 @@
 // Where the changes of a panel's parameters meet: listeners, post-conditions,
 // actions, and the lifetime of the set against the parameters it wires.
 #include "UIBuilderParamsTestSupport.h"
+#include "glob/StandardPanel.h"
 #include "params/ActiveConstraint.h"
 #include "params/MaxValueConstraint.h"
 #include "params/MinValueConstraint.h"
-#include "glob/StandardPanel.h"
 #include "testing/TestKit.h"
 
 #include <gtest/gtest.h>
@@ -19,9 +19,7 @@ using Strings = std::vector<std::string>;
 class OwnHandler : public iValueChangeHandler {
 public:
     explicit OwnHandler(Strings& journal) : journal_(journal) {}
-    void valueChanged(const LightweightString<char>& id, const LightweightString<wchar_t>&) override {
-        journal_.push_back("own " + id.str());
-    }
+    void valueChanged(const LightweightString<char>& id, const LightweightString<wchar_t>&) override { journal_.push_back("own " + id.str()); }
 
 private:
     Strings& journal_;
@@ -60,9 +58,8 @@ TEST_F(UIBuilderParams, EachChangeIsEvaluatedThenToldToEveryListenerOnceByIdAlon
     Strings journal;
     UIBuilder::ParamList params = threeParams();
     params[0]->addChangeHandler(Zn::Ptr<iValueChangeHandler>(new OwnHandler(journal)));
-    params[0]->addValueConstraint(Zn::Ptr<iValueConstraint>(new ParamTestSupport::Constraint([](const WString& v) {
-        return DataConvert::convert<WString, int>(v) > 10 ? WString(L"10") : v;
-    })));
+    params[0]->addValueConstraint(Zn::Ptr<iValueConstraint>(
+        new ParamTestSupport::Constraint([](const WString& v) { return DataConvert::convert<WString, int>(v) > 10 ? WString(L"10") : v; })));
     Zn::Ptr<Snapshot> snapshot(new Snapshot(journal));
     auto set = Zn::makePtr<UIBuilder::Params>(params, UIBuilder::WidgetMap{}, std::vector<Zn::Ptr<UIBuilder::iPostCondition>>{snapshot});
     set->addListener(listenerInto(journal, "first "));
@@ -98,8 +95,7 @@ TEST_F(UIBuilderParams, ActiveConstraintsFollowEveryChangeOfAnyParameter) {
     params.push_back(make<ChoiceParam>(L"Mode", "mode", L"", 1, std::vector<ChoiceParam::Choice>{{L"A", 1}, {L"B", 2}}));
     params.push_back(make<BoolParam>(L"On", "on", L"", true));
     params.push_back(make<DoubleParam>(L"Level", "level", L"", 0.5, 0.0, 1.0));
-    Zn::Ptr<UIBuilder::iPostCondition> levelActive(
-        new ActiveConstraint(Zn::AttribValuePair::vecFromString("mode:2,on:true", ':', ','), level));
+    Zn::Ptr<UIBuilder::iPostCondition> levelActive(new ActiveConstraint(Zn::AttribValuePair::vecFromString("mode:2,on:true", ':', ','), level));
     Zn::Ptr<UIBuilder::iPostCondition> orphanActive(new ActiveConstraint(Zn::AttribValuePair::vecFromString("missing:", ':', ','), orphan));
     auto set = Zn::makePtr<UIBuilder::Params>(params, UIBuilder::WidgetMap{{"level", level}},
                                               std::vector<Zn::Ptr<UIBuilder::iPostCondition>>{levelActive, orphanActive});
@@ -172,7 +168,8 @@ TEST_F(UIBuilderParams, AMessageWithNoRunnableActionReachesNothing) {
 TEST_F(UIBuilderParams, AListenerOrActionMayDropTheLastReferenceToTheSet) {
     Strings journal;
     UIBuilder::ParamList params = threeParams();
-    Zn::Ptr<UIBuilder::Params> set = Zn::makePtr<UIBuilder::Params>(params, UIBuilder::WidgetMap{}, std::vector<Zn::Ptr<UIBuilder::iPostCondition>>{});
+    Zn::Ptr<UIBuilder::Params> set =
+        Zn::makePtr<UIBuilder::Params>(params, UIBuilder::WidgetMap{}, std::vector<Zn::Ptr<UIBuilder::iPostCondition>>{});
     set->addListener(UIBuilder::Params::Listener(new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([&](const NotifyMsg&) {
         set = nullptr; // the owner closes the panel
         return 0;

@@ -20,8 +20,8 @@ public:
 };
 
 inline UIBuilder::Params::Listener listenerInto(std::vector<std::string>& journal, const std::string& prefix = "") {
-    return UIBuilder::Params::Listener(new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>(
-        [&journal, prefix](const NotifyMsg& m) {
+    return UIBuilder::Params::Listener(
+        new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([&journal, prefix](const NotifyMsg& m) {
             journal.push_back(prefix + m.name().str() + (m.data() ? "+payload" : ""));
             return 0;
         })));

@@ -36,8 +36,8 @@ Zn::Ptr<iParam> ranged(Zn::Ptr<iParam> p, int min, int max) {
 Zn::Ptr<ActionParam> resetAction() {
     Zn::Ptr<ActionParam> action(new ActionParam(0, "reset", L"Reset", L""));
     action->title = L"Defaults";
-    action->callback = Zn::Ptr<iCallbackBase<bool, ActionParam::CallbackData>>(
-        new FunctionCallback<ActionParam::CallbackData, bool>(std::function<bool(const ActionParam::CallbackData&)>([](const ActionParam::CallbackData& data) {
+    action->callback = Zn::Ptr<iCallbackBase<bool, ActionParam::CallbackData>>(new FunctionCallback<ActionParam::CallbackData, bool>(
+        std::function<bool(const ActionParam::CallbackData&)>([](const ActionParam::CallbackData& data) {
             for (const auto& p : *data.params) p->reset();
             return true;
         })));
@@ -46,9 +46,7 @@ Zn::Ptr<ActionParam> resetAction() {
 
 class UIBuilderList : public ::testing::Test {
 protected:
-    void SetUp() override {
-        panel = TestKit::realize(new StandardPanel(StandardPanel::InitArgs(500, 400)));
-    }
+    void SetUp() override { panel = TestKit::realize(new StandardPanel(StandardPanel::InitArgs(500, 400))); }
     void TearDown() override {
         UIBuilder::setActionParamsOnMenu(false);
         TestKit::reset();
@@ -160,7 +158,9 @@ TEST_F(UIBuilderList, IntegerSlidersStepByAFiveHundredthOfTheirRangeAndEmptyRang
     params.push_back(ranged(make<IntParam>(5, "narrow", L"Narrow", L""), 0, 100));
     params.push_back(make<DoubleParam>(L"Flat", "flat", L"", 3.0, 2.0, 2.0));
     auto set = build(params);
-    auto slider = [&](const char* id) { return dynamic_cast<TitledGlob<Slider>*>(dynamic_cast<SliderParamHost*>(set->getWidget(id))->titled)->control(); };
+    auto slider = [&](const char* id) {
+        return dynamic_cast<TitledGlob<Slider>*>(dynamic_cast<SliderParamHost*>(set->getWidget(id))->titled)->control();
+    };
     EXPECT_DOUBLE_EQ(slider("wide")->getValueIncrement(), 200.0);
     EXPECT_DOUBLE_EQ(slider("narrow")->getValueIncrement(), 1.0);
     EXPECT_DOUBLE_EQ(slider("narrow")->getMaxValue(), 100.0);
@@ -296,13 +296,25 @@ TEST_F(UIBuilderList, AChoiceRowShowsTheEntryOfItsValueAndEntryZeroForAValueOfNo
 TEST_F(UIBuilderList, InAScrollerTheRowsAreStackedByIt) {
     auto* scroller = TestKit::realize(new VerticalScrollingBase(VerticalScrollingBase::InitArgs(400, 120)), {700, 100});
     UIBuilder::ParamList params;
-    for (int i = 0; i < 8; ++i) params.push_back(make<BoolParam>(WString(L"Option"), LightweightString<char>(("o" + std::to_string(i)).c_str()), L"", false));
+    for (int i = 0; i < 8; ++i)
+        params.push_back(make<BoolParam>(WString(L"Option"), LightweightString<char>(("o" + std::to_string(i)).c_str()), L"", false));
     auto set = UIBuilder::build(params, scroller);
     TestKit::pump();
     ASSERT_EQ(scroller->rows.size(), 8u);
     EXPECT_EQ(scroller->rows[3], set->getWidget("o3"));
     EXPECT_EQ(set->getWidget("o0")->parent(), scroller->content);
     EXPECT_GT(scroller->maxScrollOffset(), 0) << "eight rows do not fit in 120 pixels";
+}
+
+TEST_F(UIBuilderList, ABuildDropsItsRowsPaintsButNotThoseOtherPanelsAskedFor) {
+    Glob* other = new StandardPanel(StandardPanel::InitArgs(60, 60));
+    other->setupRootPos({700, 600});
+    GlobManager::instance().realize(other);
+    Drawable::disableRedraws();
+    other->setCol(Colour(1, 0, 0), true);
+    build({make<BoolParam>(L"Loop", "loop", L"", true)});
+    Drawable::enableRedraws();
+    EXPECT_TRUE(TestKit::pixelNear(other, 30, 30, 0xFFFF0000));
 }
 
 TEST_F(UIBuilderList, PaintedLegendsLineUpInOneColumnAndTheSliderAndBoxSitInTheirPlaces) {

@@ -1,9 +1,9 @@
 // The development panels: the editor that builds what is typed into it, and the
 // example panel of "UIBuilderTest2".
+#include "params/UIBuilderTestPanel.h"
 #include "controls/CodeEditor.h"
 #include "controls/PushButton.h"
 #include "glob/GlobManager.h"
-#include "params/UIBuilderTestPanel.h"
 #include "platform/CommandRegistrar.h"
 #include "testing/TestKit.h"
 

@@ -62,7 +62,7 @@ TEST_F(TutorialFile, EveryFieldRoundTripsExceptWhatReadingAndWritingTreatDiffere
     p->message.relativity = kAbove;
     p->message.origin = kCentre;
     p->action.event = "drag";
-    p->action.modifiers = Tutorial::Action::kShift | Tutorial::Action::kAlt;
+    p->action.modifiers = Modifiers::Shift | Modifiers::Alt;
     t.addPhase(p);
 
     Zn::Ptr<Tutorial> back = roundTrip(t);
@@ -98,7 +98,7 @@ TEST_F(TutorialFile, ReadingKeepsTheTargetAndTheOriginWhenAFileHasBoth) {
     EXPECT_EQ(p->pointer.x, Tutorial::kNoCoordinate);
     EXPECT_EQ(p->message.origin, kTopLeft);
     EXPECT_TRUE(p->message.target.empty());
-    EXPECT_EQ(p->message.relativity, kNoRelativity);
+    EXPECT_EQ(p->message.relativity, kBelow) << "the side keeps its default";
 }
 
 TEST_F(TutorialFile, PointerValidityAndCoordinateDefaults) {
@@ -124,8 +124,9 @@ TEST_F(TutorialFile, PhaseTextBecomesTheMessageAndMovesIntoItOnSaving) {
     auto t = fromText(R"({"phases":[{"text":"From the phase"}, {"text":"Overridden","message":{"text":"Own"}}]})");
     EXPECT_TRUE(t->getPhase(0)->message.valid());
     EXPECT_EQ(t->getPhase(0)->message.text, L"From the phase");
-    EXPECT_EQ(t->getPhase(0)->message.relativity, WidgetRelativityFromString(""));
+    EXPECT_EQ(t->getPhase(0)->message.relativity, kBelow) << "with no message object read, the side keeps its default";
     EXPECT_EQ(t->getPhase(1)->message.text, L"Own");
+    EXPECT_EQ(t->getPhase(1)->message.relativity, WidgetRelativityFromString("")) << "a message object without a side";
     t->save(path("moved.ZnTutorial"));
     auto root = JSON::parseFile(path("moved.ZnTutorial"));
     ASSERT_TRUE(root);
@@ -181,9 +182,15 @@ TEST_F(TutorialFile, ModifiersAreWrittenInOrderReadByNameAndOnlyAdded) {
     t.save(path("m.ZnTutorial"));
     std::string text = read(path("m.ZnTutorial"));
     EXPECT_NE(text.find("\"modifiers\""), std::string::npos) << "an unknown bit still gives the array";
-    EXPECT_EQ(JSON::parseFile(path("m.ZnTutorial"))->getChild("phases")->getChild(static_cast<unsigned short>(0))->getChild("action")->getChild("modifiers")->getNumStringAttribs(), 0);
+    EXPECT_EQ(JSON::parseFile(path("m.ZnTutorial"))
+                  ->getChild("phases")
+                  ->getChild(static_cast<unsigned short>(0))
+                  ->getChild("action")
+                  ->getChild("modifiers")
+                  ->getNumStringAttribs(),
+              0);
 
-    p->action.modifiers = Tutorial::Action::kAlt | Tutorial::Action::kCmd | Tutorial::Action::kCtrl | Tutorial::Action::kShift;
+    p->action.modifiers = Modifiers::Alt | Modifiers::Cmd | Modifiers::Control | Modifiers::Shift;
     t.save(path("m.ZnTutorial"));
     text = read(path("m.ZnTutorial"));
     EXPECT_LT(text.find("shift"), text.find("ctrl"));
@@ -191,8 +198,8 @@ TEST_F(TutorialFile, ModifiersAreWrittenInOrderReadByNameAndOnlyAdded) {
     EXPECT_LT(text.find("cmd"), text.find("alt"));
 
     auto r = fromText(R"({"phases":[{"action":{"event":"k","modifiers":["alt","SHIFT","meta","ctrl"]}}]})");
-    EXPECT_EQ(r->getPhase(0)->action.modifiers, Tutorial::Action::kAlt | Tutorial::Action::kCtrl);
-    EXPECT_EQ(Tutorial::Action::asString(Tutorial::Action::kCmd), "cmd");
+    EXPECT_EQ(r->getPhase(0)->action.modifiers, Modifiers::Alt | Modifiers::Control);
+    EXPECT_EQ(Tutorial::Action::asString(Modifiers::Cmd), "cmd");
     EXPECT_EQ(Tutorial::Action::asString(3), "");
 }
 

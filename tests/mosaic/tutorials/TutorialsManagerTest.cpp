@@ -33,10 +33,11 @@ struct Heard {
 };
 
 Zn::Ptr<Zn::Guard> listen(TutorialsManager& m, Heard& heard, int code) {
-    auto cb = Zn::Ptr<iCallbackBase<int, NotifyMsg>>(new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([&heard, code](const NotifyMsg& msg) {
-        heard.notices.emplace_back(code, msg.dataAs<Tutorial>());
-        return 0;
-    })));
+    auto cb = Zn::Ptr<iCallbackBase<int, NotifyMsg>>(
+        new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([&heard, code](const NotifyMsg& msg) {
+            heard.notices.emplace_back(code, msg.dataAs<Tutorial>());
+            return 0;
+        })));
     return m.addListener(cb, code);
 }
 
@@ -98,10 +99,11 @@ TEST_F(Catalogue, ListenersHearCreateSaveAndDeleteWithTheTutorial) {
 
 TEST_F(Catalogue, AListenerOfOneCodeHearsNothingWhenTheCatalogueGoes) {
     std::vector<LightweightString<wchar_t>> names;
-    auto named = Zn::Ptr<iCallbackBase<int, NotifyMsg>>(new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([&names](const NotifyMsg& msg) {
-        names.push_back(msg.dataAs<Tutorial>()->getName());
-        return 0;
-    })));
+    auto named = Zn::Ptr<iCallbackBase<int, NotifyMsg>>(
+        new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([&names](const NotifyMsg& msg) {
+            names.push_back(msg.dataAs<Tutorial>()->getName());
+            return 0;
+        })));
     Zn::Ptr<Zn::Guard> guard;
     {
         TutorialsManager m(folder());

@@ -72,7 +72,7 @@ TEST_F(Buttons, TheFaceShowsHoverPressFocusAndInactivity) {
 
 TEST_F(Buttons, AFlatButtonShowsItsFaceOnlyUnderTheMouse) {
     Button* b = button();
-    b->setStyle(1, 1);
+    b->setStyle(Button::kFlat, Button::kFlat);
     TestKit::mouseMove({5, 5});
     EXPECT_TRUE(TestKit::pixelNear(b, facePoint(b).x, facePoint(b).y, TestKit::argb(host->getPalette().window()), 2));
     TestKit::mouseMove(TestKit::centreOf(b));

@@ -29,11 +29,12 @@ struct Doomed {
 // the only reference to this callback, the count lands in freed memory (which ASan
 // reports) unless firing kept the callback alive.
 WidgetCallback deleting(Doomed& d) {
-    return WidgetCallback(Zn::Ptr<iCallbackBase<int, NotifyMsg>>(new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([&d](const NotifyMsg&) {
-        delete d.glob;
-        ++d.calls;
-        return 1;
-    }))));
+    return WidgetCallback(
+        Zn::Ptr<iCallbackBase<int, NotifyMsg>>(new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([&d](const NotifyMsg&) {
+            delete d.glob;
+            ++d.calls;
+            return 1;
+        }))));
 }
 
 class CallbackDeletesControl : public MenusTest {
@@ -62,20 +63,30 @@ protected:
 } // namespace
 
 TEST_F(CallbackDeletesControl, EveryKindOfControlSurvivesACallbackThatDeletesIt) {
-    expectSafe("Button", [&](const WidgetCallback& cb) { return add<Button>(Button::InitArgs(UIString(L"Go"), cb, 80, 30)); }, click);
-    expectSafe("CycleButton", [&](const WidgetCallback& cb) { return add<CycleButton>(CycleButton::InitArgs({UIString(L"A"), UIString(L"B")}, cb, 80, 30)); },
-               click);
-    expectSafe("ImageButton", [&](const WidgetCallback& cb) { return add<ImageButton>(ImageButton::InitArgs(L"", cb, 30, 30)); }, click);
-    expectSafe("ButtonWidget", [&](const WidgetCallback& cb) { return add<ButtonWidget<int>>(Button::InitArgs(UIString(L"1"), cb, 80, 30)); }, click);
-    expectSafe("Checkbox", [&](const WidgetCallback& cb) { return add<Checkbox>(Checkbox::InitArgs(L"On", false, cb, 80, 30)); }, click);
-    expectSafe("ColRect", [&](const WidgetCallback& cb) { return add<ColRect>(ColRect::InitArgs(ColourData(), cb, 30, 30)); }, click);
-    expectSafe("Slider",
-               [&](const WidgetCallback& cb) {
-                   auto* s = add<Slider>(Slider::InitArgs(Colour(0.9, 0.3, 0.1), 120));
-                   s->setCallback(cb);
-                   return s;
-               },
-               focusAndPress(Keys::Right));
+    expectSafe(
+        "Button", [&](const WidgetCallback& cb) { return add<Button>(Button::InitArgs(UIString(L"Go"), cb, 80, 30)); }, click);
+    expectSafe(
+        "CycleButton",
+        [&](const WidgetCallback& cb) {
+            return add<CycleButton>(CycleButton::InitArgs({UIString(L"A"), UIString(L"B")}, cb, 80, 30));
+        },
+        click);
+    expectSafe(
+        "ImageButton", [&](const WidgetCallback& cb) { return add<ImageButton>(ImageButton::InitArgs(L"", cb, 30, 30)); }, click);
+    expectSafe(
+        "ButtonWidget", [&](const WidgetCallback& cb) { return add<ButtonWidget<int>>(Button::InitArgs(UIString(L"1"), cb, 80, 30)); }, click);
+    expectSafe(
+        "Checkbox", [&](const WidgetCallback& cb) { return add<Checkbox>(Checkbox::InitArgs(L"On", false, cb, 80, 30)); }, click);
+    expectSafe(
+        "ColRect", [&](const WidgetCallback& cb) { return add<ColRect>(ColRect::InitArgs(ColourData(), cb, 30, 30)); }, click);
+    expectSafe(
+        "Slider",
+        [&](const WidgetCallback& cb) {
+            auto* s = add<Slider>(Slider::InitArgs(Colour(0.9, 0.3, 0.1), 120));
+            s->setCallback(cb);
+            return s;
+        },
+        focusAndPress(Keys::Right));
     auto list = [&](bool activation) {
         return [&, activation](const WidgetCallback& cb) {
             ScrollList::InitArgs a(150, 100, {L"One", L"Two"});
@@ -98,17 +109,20 @@ TEST_F(CallbackDeletesControl, EveryKindOfControlSurvivesACallbackThatDeletesIt)
     };
     expectSafe("DropDownMenuButton row", dropDown(true), focusAndPress(Keys::Down));
     expectSafe("DropDownMenuButton", dropDown(false), focusAndPress(Keys::Down));
-    expectSafe("Menu", [&](const WidgetCallback& cb) { return popUp({MenuItem(UIString(L"Cut"), cb)}); }, [&](Glob* g) {
-        TestKit::click(rowCentre(static_cast<Menu*>(g), 0));
-    });
-    expectSafe("Message", [&](const WidgetCallback& cb) { return makeMessage(L"Title", L"Done.", cb, host); }, [](Glob*) { TestKit::pressKey(Keys::Return); });
-    expectSafe("TextBox",
-               [&](const WidgetCallback& cb) {
-                   auto* t = add<TextBox>(TextBox::InitArgs(UIString(L"text"), 120, 30));
-                   t->requestCallback(cb, TextBoxBase::kReturnPressed);
-                   return t;
-               },
-               focusAndPress(Keys::Return));
+    expectSafe(
+        "Menu", [&](const WidgetCallback& cb) { return popUp({MenuItem(UIString(L"Cut"), cb)}); },
+        [&](Glob* g) { TestKit::click(rowCentre(static_cast<Menu*>(g), 0)); });
+    expectSafe(
+        "Message", [&](const WidgetCallback& cb) { return makeMessage(L"Title", L"Done.", cb, host); },
+        [](Glob*) { TestKit::pressKey(Keys::Return); });
+    expectSafe(
+        "TextBox",
+        [&](const WidgetCallback& cb) {
+            auto* t = add<TextBox>(TextBox::InitArgs(UIString(L"text"), 120, 30));
+            t->requestCallback(cb, TextBoxBase::kReturnPressed);
+            return t;
+        },
+        focusAndPress(Keys::Return));
 }
 
 TEST_F(CallbackDeletesControl, AControlDeletedByAListenerOfItsValueFiresNoCallback) {

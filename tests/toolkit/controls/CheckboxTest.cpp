@@ -1,5 +1,5 @@
-#include "ControlsTestSupport.h"
 #include "controls/Checkbox.h"
+#include "ControlsTestSupport.h"
 #include "value/ValAdaptor.h"
 
 namespace {

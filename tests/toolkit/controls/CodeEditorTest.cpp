@@ -331,8 +331,8 @@ TEST_F(CodeEditorTest, DegradedInputAndPositionsNeverCrash) {
     EXPECT_EQ(e->lineEnd(7), 0u);
     focusAt(e, 1000);
     EXPECT_EQ(e->getCursorPosition(), 0u);
-    for (int key : {int(Keys::Backspace), int(Keys::Delete), int(Keys::Left), int(Keys::Right), int(Keys::Up), int(Keys::Down),
-                    int(Keys::PageUp), int(Keys::PageDown), int(Keys::Home), int(Keys::End)})
+    for (int key : {int(Keys::Backspace), int(Keys::Delete), int(Keys::Left), int(Keys::Right), int(Keys::Up), int(Keys::Down), int(Keys::PageUp),
+                    int(Keys::PageDown), int(Keys::Home), int(Keys::End)})
         TestKit::pressKey(key);
     TestKit::pressKey('x', Modifiers::Control);
     TestKit::pressKey('v', Modifiers::Control);

@@ -1,5 +1,5 @@
-#include "PanelsTestSupport.h"
 #include "controls/ColRect.h"
+#include "PanelsTestSupport.h"
 #include "value/ValAdaptor.h"
 
 #include <cmath>

@@ -43,9 +43,10 @@ protected:
 
 // A callback that counts its calls and keeps the last message.
 inline Zn::Ptr<iCallbackBase<int, NotifyMsg>> countingCallback(int& calls, std::string* last = nullptr) {
-    return Zn::Ptr<iCallbackBase<int, NotifyMsg>>(new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([&calls, last](const NotifyMsg& m) {
-        ++calls;
-        if (last) *last = m.name().str();
-        return 1;
-    })));
+    return Zn::Ptr<iCallbackBase<int, NotifyMsg>>(
+        new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([&calls, last](const NotifyMsg& m) {
+            ++calls;
+            if (last) *last = m.name().str();
+            return 1;
+        })));
 }

@@ -1,5 +1,5 @@
-#include "ControlsTestSupport.h"
 #include "controls/CycleButton.h"
+#include "ControlsTestSupport.h"
 #include "draw/FontDesc.h"
 
 namespace {

@@ -1,5 +1,5 @@
-#include "MenusTestSupport.h"
 #include "controls/DropDownMenuButton.h"
+#include "MenusTestSupport.h"
 #include "glob/Messaging.h"
 #include "glob/UifStd.h"
 #include "value/ValAdaptor.h"
@@ -65,7 +65,8 @@ TEST_F(DropDowns, AClickTellsTheOwnerThenOpensTheMenuBelowTheButton) {
 TEST_F(DropDowns, AChoiceByMouseShowsOnTheButtonAndFiresOnce) {
     int rowCalls = 0;
     DropDownMenuButton* b = dropDown(DropDownMenuButton::InitArgs(
-        std::vector<MenuItem>{MenuItem(UIString(L"Off")), MenuItem(UIString(L"Low"), WidgetCallback(countingCallback(rowCalls))), MenuItem(UIString(L"High"))},
+        std::vector<MenuItem>{MenuItem(UIString(L"Off")), MenuItem(UIString(L"Low"), WidgetCallback(countingCallback(rowCalls))),
+                              MenuItem(UIString(L"High"))},
         120, 26));
     Menu* m = openWithClick(b);
     ASSERT_NE(m, nullptr);
@@ -88,8 +89,13 @@ TEST_F(DropDowns, AChoiceByMouseShowsOnTheButtonAndFiresOnce) {
 TEST_F(DropDowns, TheKeyboardChoosesAndHeadingsAreNeverChoices) {
     MenuItem thirty(UIString(L"30"));
     thirty.setActive(false);
-    std::vector<MenuItem> rows{MenuItem(UIString(L"Film"), {}, kMenuItemHeading), MenuItem(UIString(L"24")), MenuItem(UIString(L"23.976")),
-                               MenuItem(UIString(L"Video"), {}, kMenuItemHeading), MenuItem(UIString(L"25")), thirty, MenuItem(UIString(L"29.97"))};
+    std::vector<MenuItem> rows{MenuItem(UIString(L"Film"), {}, kMenuItemHeading),
+                               MenuItem(UIString(L"24")),
+                               MenuItem(UIString(L"23.976")),
+                               MenuItem(UIString(L"Video"), {}, kMenuItemHeading),
+                               MenuItem(UIString(L"25")),
+                               thirty,
+                               MenuItem(UIString(L"29.97"))};
     DropDownMenuButton* b = dropDown(DropDownMenuButton::InitArgs(rows, 120, 26));
     EXPECT_EQ(b->numChoices(), 5);
     EXPECT_EQ(b->getLabel().getString(), L"24");
@@ -246,9 +252,8 @@ TEST_F(DropDowns, CalcWidthFitsTheWidestChoiceBesideTheArrow) {
     EXPECT_GT(wide, narrow);
     EXPECT_GT(wide, UifStd::instance().measure(UIString(L"A much longer entry")).x + UifStd::instance().getRowHeight() / 2) << "room for the arrow";
     EXPECT_EQ(DropDownMenuButton::calcWidth(UIString(L"24"), font), narrow);
-    EXPECT_EQ(DropDownMenuButton::calcWidth(std::vector<MenuItem>{MenuItem(UIString(L"A much longer heading"), {}, kMenuItemHeading),
-                                                                    MenuItem(UIString(L"24"))},
-                                            font),
+    EXPECT_EQ(DropDownMenuButton::calcWidth(
+                  std::vector<MenuItem>{MenuItem(UIString(L"A much longer heading"), {}, kMenuItemHeading), MenuItem(UIString(L"24"))}, font),
               narrow)
         << "headings never show on the button";
     EXPECT_GT(DropDownMenuButton::calcWidth(std::vector<UIString>{UIString(L"Media||(120 GB)")}, font),

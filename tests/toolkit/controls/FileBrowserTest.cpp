@@ -1,5 +1,5 @@
-#include "ControlsTestSupport.h"
 #include "../platform/TempFolder.h"
+#include "ControlsTestSupport.h"
 
 #include "controls/DropDownMenuButton.h"
 #include "controls/FileBrowser.h"
@@ -45,13 +45,14 @@ struct Answers {
 };
 
 Zn::Ptr<iCallbackBase<int, NotifyMsg>> recorder(Answers& a, std::function<void()> then = {}) {
-    return Zn::Ptr<iCallbackBase<int, NotifyMsg>>(new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([&a, then](const NotifyMsg& m) {
-        a.names.push_back(m.name().str());
-        auto answer = m.dataAs<FileBrowserBase::Answer>();
-        a.lists.push_back(answer ? std::vector<WStr>(answer->get().begin(), answer->get().end()) : std::vector<WStr>{{L"(no payload)"}});
-        if (then) then();
-        return 1;
-    })));
+    return Zn::Ptr<iCallbackBase<int, NotifyMsg>>(
+        new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([&a, then](const NotifyMsg& m) {
+            a.names.push_back(m.name().str());
+            auto answer = m.dataAs<FileBrowserBase::Answer>();
+            a.lists.push_back(answer ? std::vector<WStr>(answer->get().begin(), answer->get().end()) : std::vector<WStr>{{L"(no payload)"}});
+            if (then) then();
+            return 1;
+        })));
 }
 
 // A browser with only the name column and no frame, made as a child of a panel.
@@ -99,17 +100,13 @@ protected:
         BoxInt box = b->table()->getCellBox({0, row});
         return TestKit::screenPointOf(b->table(), {box.x1 + 4, (box.y1 + box.y2) / 2});
     }
-    static void clickRow(FileBrowserBase* b, int row, unsigned modifiers = 0) {
-        TestKit::click(rowPoint(b, row), Event::kLeft, modifiers);
-    }
+    static void clickRow(FileBrowserBase* b, int row, unsigned modifiers = 0) { TestKit::click(rowPoint(b, row), Event::kLeft, modifiers); }
     static void doubleClickRow(FileBrowserBase* b, int row) {
         TestKit::click(rowPoint(b, row));
         TestKit::click(rowPoint(b, row));
     }
     // Moves the mouse's last click away, so that the next click on a row is a single one.
-    void clickAside() {
-        TestKit::click(TestKit::centreOf(owner));
-    }
+    void clickAside() { TestKit::click(TestKit::centreOf(owner)); }
     static void typePath(FileBrowserBase* b, const std::string& text) {
         b->pathBox()->setString(fromUTF8(text));
         set_kbd_focus(b->pathBox());
@@ -192,7 +189,6 @@ TEST(FolderListingTest, AFolderThatCannotBeReadListsNothingAndHiddenNamesAreShow
     EXPECT_EQ(listing.numEntries(), 3u);
     EXPECT_EQ(listing.indexOf(file.c_str()), 1);
 }
-
 
 TEST_F(FileBrowserTest, FoldersComeFirstThenFilesByNameWithoutCaseAndHiddenOnesAreLeftOut) {
     FileBrowser* b = open();
@@ -516,7 +512,8 @@ TEST_F(FileBrowserTest, ACallbackMayDeleteTheBrowserAndAMessageOnlyCallbackGoesT
     FileBrowser* c = FileBrowser::make(m);
     TestKit::pump();
     doubleClickRow(c, rowOf(c, L"apple.png"));
-    EXPECT_EQ(owner->messages, (std::vector<std::string>{FileBrowserBase::fileBrowserSelectedMsg, FileBrowserBase::fileBrowserSelectedMsg, "picked"}));
+    EXPECT_EQ(owner->messages,
+              (std::vector<std::string>{FileBrowserBase::fileBrowserSelectedMsg, FileBrowserBase::fileBrowserSelectedMsg, "picked"}));
     EXPECT_EQ(owner->paths.back(), std::vector<WStr>{path("apple.png")});
 }
 

@@ -1,5 +1,5 @@
-#include "ControlsTestSupport.h"
 #include "controls/Gauge.h"
+#include "ControlsTestSupport.h"
 
 #include <cmath>
 

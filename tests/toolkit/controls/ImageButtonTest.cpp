@@ -1,5 +1,5 @@
-#include "ControlsTestSupport.h"
 #include "controls/ImageButton.h"
+#include "ControlsTestSupport.h"
 #include "controls/ImageView.h"
 #include "draw/FontDesc.h"
 #include "image/HostImage.h"

@@ -6,9 +6,12 @@
 namespace {
 
 std::vector<MenuItem> formatRows() {
-    return {MenuItem(UIString(L"High definition"), {}, kMenuItemHeading), MenuItem(UIString(L"1080p25")), MenuItem(UIString(L"720p50")),
+    return {MenuItem(UIString(L"High definition"), {}, kMenuItemHeading),
+            MenuItem(UIString(L"1080p25")),
+            MenuItem(UIString(L"720p50")),
             MenuItem(),
-            MenuItem(UIString(L"Standard definition"), {}, kMenuItemHeading), MenuItem(UIString(L"PAL||720x576"))};
+            MenuItem(UIString(L"Standard definition"), {}, kMenuItemHeading),
+            MenuItem(UIString(L"PAL||720x576"))};
 }
 
 } // namespace
@@ -22,7 +25,7 @@ TEST(MenuItemRows, KindsOfRowTellHeadingsAndGapsFromChoices) {
     EXPECT_FALSE(gap.isChoice());
     MenuItem plain(UIString(L"Copy"), WidgetCallback("copy"), kMenuItemPlain);
     EXPECT_TRUE(plain.canBeChosen()) << "any type but a heading is a choice";
-    MenuItem styled(UIString(L"Reveal"), {}, static_cast<MenuItemType>(5));
+    MenuItem styled(UIString(L"Reveal"), {}, kMenuItemCommand);
     EXPECT_TRUE(styled.isChoice());
     styled.setActive(false);
     EXPECT_TRUE(styled.isChoice());

@@ -1,5 +1,5 @@
-#include "ControlsTestSupport.h"
 #include "controls/Slider.h"
+#include "ControlsTestSupport.h"
 #include "value/ValAdaptor.h"
 
 #include <cmath>

@@ -1,5 +1,5 @@
-#include "PanelsTestSupport.h"
 #include "controls/Splitter.h"
+#include "PanelsTestSupport.h"
 
 #include <algorithm>
 
@@ -130,8 +130,7 @@ TEST_F(Splitters, TheBarIsPaintedAndLightensUnderTheMouse) {
     build(Splitter::kSideBySide);
     const Palette& p = bar->getPalette();
     EXPECT_TRUE(TestKit::pixelNear(bar, 0, 10, TestKit::argb(p.window(kShadeDark)), 2));
-    EXPECT_LT(PanelsTest::nearestTo(bar, BoxInt(0, 0, bar->width(), bar->height()), TestKit::argb(p.window(kShadeDarkest))), 30)
-        << "the grip dots";
+    EXPECT_LT(PanelsTest::nearestTo(bar, BoxInt(0, 0, bar->width(), bar->height()), TestKit::argb(p.window(kShadeDarkest))), 30) << "the grip dots";
     TestKit::mouseMove(TestKit::centreOf(bar));
     EXPECT_TRUE(TestKit::pixelNear(bar, 0, 10, TestKit::argb(p.window(kShadeLight)), 2));
     EXPECT_EQ(bar->contextCursor({0, 0}), kCursorResizeHorizontal);

@@ -1,6 +1,6 @@
+#include "controls/StatusMessage.h"
 #include "PanelsTestSupport.h"
 #include "controls/PushButton.h"
-#include "controls/StatusMessage.h"
 #include "draw/Screen.h"
 #include "glob/UifStd.h"
 #include "platform/Clock.h"
@@ -97,7 +97,8 @@ TEST_F(StatusMessages, TheOkButtonEndsTheMessage) {
     const XY<int> withOk = StatusMessage::calcSize(L"Read me", kBelow, StatusMessage::kOkButton);
     EXPECT_GT(withOk.y, plain.y + UifStd::instance().getRowHeight() - 1);
 
-    StatusMessage::InitArgs args(L"Read me", static_cast<unsigned short>(withOk.x), static_cast<unsigned short>(withOk.y), 0, StatusMessage::kOkButton);
+    StatusMessage::InitArgs args(L"Read me", static_cast<unsigned short>(withOk.x), static_cast<unsigned short>(withOk.y), 0,
+                                 StatusMessage::kOkButton);
     int oks = 0;
     auto* s = new CountingStatus(args, oks);
     const IdStamp stamp = s->stamp();

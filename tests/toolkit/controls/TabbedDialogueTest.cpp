@@ -1,6 +1,6 @@
+#include "controls/TabbedDialogue.h"
 #include "PanelsTestSupport.h"
 #include "controls/Button.h"
-#include "controls/TabbedDialogue.h"
 #include "glob/UifStd.h"
 
 #include <algorithm>
@@ -69,7 +69,8 @@ TEST_F(Tabs, TheFirstTabShowsAndEachPageFillsThePageArea) {
     tabs->resize(420, 200);
     EXPECT_EQ(pages[2]->box(), tabs->pageBox()) << "pages follow the dialogue's size";
     EXPECT_EQ(tabs->pageBox().width(), 420 - 2 * TabbedDialogue::calcBorderSize());
-    EXPECT_EQ(TabbedDialogue::calcHeightForContents(100, TabbedDialogue::tabHeight(0)), 100 + TabbedDialogue::tabHeight(0) + 2 * TabbedDialogue::calcBorderSize());
+    EXPECT_EQ(TabbedDialogue::calcHeightForContents(100, TabbedDialogue::tabHeight(0)),
+              100 + TabbedDialogue::tabHeight(0) + 2 * TabbedDialogue::calcBorderSize());
     EXPECT_GT(TabbedDialogue::tabHeight(TabbedDialogue::kTallTabs), TabbedDialogue::tabHeight(0));
 }
 
@@ -115,6 +116,19 @@ TEST_F(Tabs, CtrlTabCyclesEvenFromAControlOnAPage) {
     EXPECT_EQ(changes(), 4);
     TestKit::pressKey(Keys::Tab);
     EXPECT_EQ(tabs->getSelectedTab(), 2) << "a plain Tab is not the dialogue's";
+}
+
+TEST_F(Tabs, WithoutTheirFlagsThePagesHaveNoFrameAndCtrlTabIsLeftAlone) {
+    TabbedDialogue::InitArgs args(200, 100, TabbedDialogue::kEvenTabs);
+    auto* bare = host->createWidget<TabbedDialogue>(args, Glob::UserBottomLeft(10, 10));
+    bare->addTab(UIString(L"One"));
+    bare->addTab(UIString(L"Two"));
+    const BoxInt user = bare->getUserArea();
+    EXPECT_EQ(bare->pageBox(), BoxInt(user.x1, user.y1, user.x2, bare->tabsBox().y1)) << "the pages reach the edges";
+    EXPECT_GT(tabs->pageBox().x1, tabs->getUserArea().x1) << "a framed dialogue keeps its frame clear";
+    ASSERT_TRUE(bare->claimKbdFocus());
+    TestKit::pressKey(Keys::Tab, Modifiers::Control);
+    EXPECT_EQ(bare->getSelectedTab(), 0);
 }
 
 TEST_F(Tabs, RemovingPagesKeepsASensibleSelection) {

@@ -187,6 +187,31 @@ TEST_F(TextBoxTest, CutCopyAndPasteGoThroughTheClipboard) {
     EXPECT_EQ(box->getString(), L"line one line two three betaalpha") << "line breaks become spaces in one line";
 }
 
+namespace {
+class KeyRecorder : public TextBox {
+public:
+    using TextBox::TextBox;
+    int handleKeyboardEvent(int key) override {
+        keys.push_back(key);
+        return key == Keys::Paste ? 1 : TextBox::handleKeyboardEvent(key);
+    }
+    std::vector<int> keys;
+};
+} // namespace
+
+TEST_F(TextBoxTest, ASubclassHearsAnEditCommandAsOneCodeWhicheverKeysGaveIt) {
+    TextBox::InitArgs args(UIString(L"abc"), 200, static_cast<unsigned short>(TextBox::calcHeight()));
+    auto* b = panel->createWidget<KeyRecorder>(args, Glob::BottomLeft(10, 40));
+    focus(b);
+    OS()->setClipboardText(L"zz");
+    TestKit::pressKey('V', Modifiers::Control);
+    TestKit::pressKey('v', Modifiers::Cmd);
+    TestKit::pressKey(Keys::Insert, Modifiers::Shift);
+    TestKit::pressKey(Keys::Tab, Modifiers::Shift);
+    EXPECT_EQ(b->keys, (std::vector<int>{Keys::Paste, Keys::Paste, Keys::Paste, Keys::Tab | static_cast<int>(Modifiers::Shift)}));
+    EXPECT_EQ(b->getString(), L"abc") << "the subclass kept the pastes out";
+}
+
 TEST_F(TextBoxTest, UndoTakesBackTheLastEditAndRedoDoesItAgain) {
     box->setString(L"base");
     focus(box);

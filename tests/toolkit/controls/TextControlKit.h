@@ -77,7 +77,8 @@ inline void typeEach(const wchar_t* text) {
 
 // A callback that counts its calls in `n`, which must outlive it.
 inline WidgetCallback countingCallback(int& n) {
-    return WidgetCallback(Zn::Ptr<iCallbackBase<int, NotifyMsg>>(new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([&n](const NotifyMsg&) { return ++n; }))));
+    return WidgetCallback(Zn::Ptr<iCallbackBase<int, NotifyMsg>>(
+        new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([&n](const NotifyMsg&) { return ++n; }))));
 }
 
 } // namespace TextControlKit

@@ -1,5 +1,5 @@
-#include "ControlsTestSupport.h"
 #include "controls/TextLabel.h"
+#include "ControlsTestSupport.h"
 
 namespace {
 class TextLabels : public ControlsTest {

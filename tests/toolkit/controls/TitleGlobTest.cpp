@@ -8,7 +8,8 @@ namespace {
 class TitledRows : public ControlsTest {
 protected:
     TitleButton* row(const UIString& title, int width = 300, int height = 30, const WidgetCallback& cb = WidgetCallback("pressed")) {
-        return add<TitleButton>(TitleButton::InitArgs(title, L"Choose", cb, 0, static_cast<unsigned short>(width), static_cast<unsigned short>(height)));
+        return add<TitleButton>(
+            TitleButton::InitArgs(title, L"Choose", cb, 0, static_cast<unsigned short>(width), static_cast<unsigned short>(height)));
     }
     static std::uint32_t textColour(const Glob* g, eTextAppearance a) { return TestKit::argb(g->getPalette().text(a)); }
 };

@@ -1,5 +1,5 @@
-#include "MenusTestSupport.h"
 #include "controls/TitleMenuButton.h"
+#include "MenusTestSupport.h"
 #include "glob/UifStd.h"
 
 namespace {

@@ -24,8 +24,8 @@ public:
     void handleItemActivated(ItemId item) override { activated.push_back(item); }
 
     std::map<ItemId, std::vector<ItemId>> children{{0, {1, 2, 3}}, {1, {11, 12}}, {11, {111, 112}}, {2, {21}}};
-    std::map<ItemId, LightweightString<wchar_t>> names{{1, L"Media"},   {2, L"Effects"}, {3, L"Empty"},   {11, L"Clips"},
-                                                       {12, L"Stills"}, {111, L"A"},     {112, L"B"},     {21, L"Blur"}};
+    std::map<ItemId, LightweightString<wchar_t>> names{{1, L"Media"},   {2, L"Effects"}, {3, L"Empty"}, {11, L"Clips"},
+                                                       {12, L"Stills"}, {111, L"A"},     {112, L"B"},   {21, L"Blur"}};
     std::vector<ItemId> selected, activated;
 };
 

@@ -1,6 +1,6 @@
+#include "controls/WidgetGroup.h"
 #include "PanelsTestSupport.h"
 #include "controls/Button.h"
-#include "controls/WidgetGroup.h"
 #include "glob/UifStd.h"
 
 namespace {

@@ -1,5 +1,5 @@
-#include "core/Guard.h"
 #include "core/Ptr.h"
+#include "core/Guard.h"
 #include "core/iObject.h"
 
 #include <gtest/gtest.h>

@@ -29,7 +29,8 @@ TEST(SplitIf, OptionsKeepOrSkipEmptyPiecesAndPredicatesChooseSeparators) {
     EXPECT_EQ(Zn::splitIf(W(L",,/a,,/b,"), L',', Zn::kSplitSkipEmpty), pieces({L"/a", L"/b"}));
     EXPECT_TRUE(Zn::splitIf(W(L""), L',', Zn::kSplitSkipEmpty).empty());
     EXPECT_EQ(Zn::splitIf(W(L"a,b"), L',', 99), pieces({L"a", L"b"})) << "unknown options split as option 0";
-    auto words = Zn::splitIf(W(L"one two\tthree"), [](wchar_t c) { return std::iswspace(static_cast<wint_t>(c)) != 0; }, Zn::kSplitSkipEmpty);
+    auto words = Zn::splitIf(
+        W(L"one two\tthree"), [](wchar_t c) { return std::iswspace(static_cast<wint_t>(c)) != 0; }, Zn::kSplitSkipEmpty);
     EXPECT_EQ(words, pieces({L"one", L"two", L"three"}));
     auto narrow = Zn::splitIf(LightweightString<char>("x;y"), ';');
     ASSERT_EQ(narrow.size(), 2u);

@@ -11,7 +11,9 @@ TEST(Utf8, RoundTripsEveryPlane) {
 
 TEST(Utf8, BadBytesBecomeReplacementCharacters) {
     // A lone continuation byte, a truncated sequence, an overlong slash and an encoded surrogate.
-    EXPECT_EQ(fromUTF8("a\x80" "b"), LightweightString<wchar_t>(L"a\uFFFDb"));
+    EXPECT_EQ(fromUTF8("a\x80"
+                       "b"),
+              LightweightString<wchar_t>(L"a\uFFFDb"));
     EXPECT_EQ(fromUTF8("ab\xE6\x97"), LightweightString<wchar_t>(L"ab\uFFFD\uFFFD"));
     EXPECT_EQ(fromUTF8("\xC0\xAF"), LightweightString<wchar_t>(L"\uFFFD\uFFFD"));
     EXPECT_EQ(fromUTF8("\xED\xA0\x80"), LightweightString<wchar_t>(L"\uFFFD\uFFFD\uFFFD"));

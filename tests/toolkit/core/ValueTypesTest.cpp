@@ -1,9 +1,13 @@
 #include "core/Box.h"
+#include "core/ColourData.h"
 #include "core/Event.h"
 #include "core/IdStamp.h"
+#include "core/MethodCallback.h"
+#include "core/Palette.h"
 #include "core/UIString.h"
 #include "core/WidgetCallback.h"
-#include "core/MethodCallback.h"
+#include "draw/GlibDescriptions.h"
+#include "glob/Border.h"
 #include "platform/ResourceStrings.h"
 
 #include <gtest/gtest.h>
@@ -63,8 +67,7 @@ struct Counter : iObject {
 TEST(WidgetCallback, CallsWithNameAndPayloadOrReportsNothingToCall) {
     Counter c;
     Zn::Ptr<iObject> payload(new Counter);
-    WidgetCallback cb(Zn::Ptr<iCallbackBase<int, NotifyMsg>>(new MethodCallback<Counter, NotifyMsg, int>(&c, &Counter::onNotify)), "picked",
-                      payload);
+    WidgetCallback cb(Zn::Ptr<iCallbackBase<int, NotifyMsg>>(new MethodCallback<Counter, NotifyMsg, int>(&c, &Counter::onNotify)), "picked", payload);
     int result = 0;
     EXPECT_TRUE(cb.invoke(&result));
     EXPECT_EQ(result, 7);
@@ -96,4 +99,39 @@ TEST(Event, FreeTestsClassifyMouseEvents) {
     EXPECT_FALSE(isMouseMoveSignificant(&jitter));
     EXPECT_TRUE(isMouseMoveSignificant(&move));
     EXPECT_FALSE(isMouseMoveSignificant(nullptr));
+}
+
+TEST(KeyCodes, AKeyPressCarriesItsModifiersAndEditCommandsComeFromAnyOfTheirShortcuts) {
+    const Event shiftTab = Event::key(Event::kKeyPress, Keys::Tab, Modifiers::Shift);
+    EXPECT_EQ(shiftTab.keyCode(), Keys::Tab | static_cast<int>(Modifiers::Shift));
+    EXPECT_EQ(Event::key(Event::kKeyPress, shiftTab.keyCode()).modifiers(), Modifiers::Shift) << "modifiers may come in the code";
+    EXPECT_EQ(Keys::plain(shiftTab.keyCode()), Keys::Tab);
+    EXPECT_FALSE(Keys::isPrintable(Keys::Left));
+    EXPECT_FALSE(Keys::isPrintable('A' | static_cast<int>(Modifiers::Control)));
+
+    auto command = [](int key, unsigned mods) { return Keys::editCommandFor(key | static_cast<int>(mods)); };
+    EXPECT_EQ(command('V', Modifiers::Control), Keys::Paste);
+    EXPECT_EQ(command('v', Modifiers::Cmd), Keys::Paste);
+    EXPECT_EQ(command(Keys::Insert, Modifiers::Shift), Keys::Paste);
+    EXPECT_EQ(command(Keys::Insert, Modifiers::Control), Keys::Copy);
+    EXPECT_EQ(command(Keys::Delete, Modifiers::Shift), Keys::Cut);
+    EXPECT_EQ(command('Z', Modifiers::Control | Modifiers::Shift), Keys::Redo);
+    EXPECT_EQ(command('V', Modifiers::Control | Modifiers::Alt), 'V' | static_cast<int>(Modifiers::Control | Modifiers::Alt));
+    EXPECT_EQ(command('Q', Modifiers::Control), 'Q' | static_cast<int>(Modifiers::Control));
+    EXPECT_EQ(command('V', 0), 'V');
+}
+
+TEST(NumbersFromOutside, NumbersThatNameNothingGiveTheDefaults) {
+    EXPECT_EQ(Border(42, 2, 15).type(), Border::kNoBorder);
+    EXPECT_EQ(Border(-1, 2, 15).type(), Border::kNoBorder);
+    EXPECT_EQ(Border(8, 2, 15).type(), Border::kDialogueBorder);
+    const Palette p;
+    EXPECT_EQ(p.window(9), p.window(kShadeNormal));
+    EXPECT_EQ(p.text(-1), p.text(kTextNormal));
+    EXPECT_EQ(p.selection(2), p.selection(kSelectionFocused));
+    EXPECT_EQ(p.childWindow(3), p.childWindow(kChildEntry));
+    EXPECT_EQ(ColourData(0.1, 0.2, 0.3, 1, 1.0).getColourSpace(), kColourSpaceRGB);
+    EXPECT_EQ(ColourData(0.1, 0.2, 0.3, 2, 1.0).getColourSpace(), kColourSpaceHSV);
+    EXPECT_EQ(Glib::TextAlignment(5, -2), Glib::TextAlignment(Glib::kAlignDefault, Glib::kAlignMiddle));
+    EXPECT_EQ(Glib::TextAlignment(2, 1), Glib::TextAlignment(Glib::kAlignCentreH, Glib::kAlignTop));
 }

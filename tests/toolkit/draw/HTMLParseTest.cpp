@@ -30,11 +30,11 @@ std::uint32_t argbOf(const HTMLRenderer::Run& r) { return asARGB(r.colour); }
 } // namespace
 
 TEST(HTMLParse, RecognisesMarkUpOnlyByKnownTags) {
-    for (const wchar_t* html : {L"<b>bold</b>", L"  <p>para", L"one<br>two", L"<BR/>", L"<FONT color=red>x</FONT>",
-                                L"x <i class=\"a > b\">y", L"</p>", L"<h2>Title</h2>"})
+    for (const wchar_t* html :
+         {L"<b>bold</b>", L"  <p>para", L"one<br>two", L"<BR/>", L"<FONT color=red>x</FONT>", L"x <i class=\"a > b\">y", L"</p>", L"<h2>Title</h2>"})
         EXPECT_TRUE(HTMLRenderer::isHTML(html)) << html;
-    for (const wchar_t* plain : {L"", L"a < b and c > d", L"x<y>z", L"R&D &amp; more", L"<b", L"<b2>", L"< b>", L"<!-- -->",
-                                 L"1<2 but 3>2", L"if a<b && c>d"})
+    for (const wchar_t* plain :
+         {L"", L"a < b and c > d", L"x<y>z", L"R&D &amp; more", L"<b", L"<b2>", L"< b>", L"<!-- -->", L"1<2 but 3>2", L"if a<b && c>d"})
         EXPECT_FALSE(HTMLRenderer::isHTML(plain)) << plain;
 }
 
@@ -58,7 +58,7 @@ TEST(HTMLParse, InlineTagsMakeStyledRuns) {
     EXPECT_EQ(runs[6].font.style, FontDesc::kBold);
     EXPECT_EQ(runs[7].font.style, FontDesc::kItalic);
     for (const auto& r : runs) EXPECT_EQ(argbOf(r), asARGB(Colour(0.9, 0.9, 0.9)));
-    EXPECT_EQ(ps[0].align, HTMLRenderer::kDefaultAlign);
+    EXPECT_EQ(ps[0].align, Glib::kAlignDefault);
 }
 
 TEST(HTMLParse, FontTagsSetColourSizeAndFace) {
@@ -111,10 +111,10 @@ TEST(HTMLParse, ParagraphsBreaksAndWhiteSpace) {
 TEST(HTMLParse, AlignmentComesFromTheAlignAttribute) {
     auto ps = parse(L"<p align=\"center\">c</p><p ALIGN=Right>r</p><p align=left>l</p><div align=\"sideways\">d</div>");
     ASSERT_EQ(ps.size(), 4u);
-    EXPECT_EQ(ps[0].align, HTMLRenderer::kCentre);
-    EXPECT_EQ(ps[1].align, HTMLRenderer::kRight);
-    EXPECT_EQ(ps[2].align, HTMLRenderer::kLeft);
-    EXPECT_EQ(ps[3].align, HTMLRenderer::kDefaultAlign);
+    EXPECT_EQ(ps[0].align, Glib::kAlignCentreH);
+    EXPECT_EQ(ps[1].align, Glib::kAlignRight);
+    EXPECT_EQ(ps[2].align, Glib::kAlignLeft);
+    EXPECT_EQ(ps[3].align, Glib::kAlignDefault);
 }
 
 TEST(HTMLParse, HeadingsAreParagraphsInALargerBoldSubheadingFace) {
@@ -129,7 +129,7 @@ TEST(HTMLParse, HeadingsAreParagraphsInALargerBoldSubheadingFace) {
     EXPECT_EQ(argbOf(h1), asARGB(Colour(0.2, 0.4, 1.0)));
     EXPECT_EQ(argbOf(body), asARGB(Colour(0.9, 0.9, 0.9)));
     EXPECT_EQ(body.font, Glib::getDefaultFont());
-    EXPECT_EQ(ps[2].align, HTMLRenderer::kCentre);
+    EXPECT_EQ(ps[2].align, Glib::kAlignCentreH);
 }
 
 TEST(HTMLParse, EntitiesAreDecodedAndUnknownOnesKept) {

@@ -1,6 +1,6 @@
+#include "draw/HTMLRenderer.h"
 #include "draw/Canvas.h"
 #include "draw/CanvasRenderer.h"
-#include "draw/HTMLRenderer.h"
 #include "draw/WordWrappingTextRenderer.h"
 
 #include <gtest/gtest.h>
@@ -97,7 +97,7 @@ TEST(HTMLRender, ParagraphsTakeOneRowPerLineFromTheTop) {
     const int rowHeight = 20;
     Painted p(200, 120);
     auto ps = parse(L"<p>first</p><p>second<br>third</p>");
-    HTMLRenderer::render(&p.canvas, ps, BoxInt(0, 0, 200, 120), rowHeight, HTMLRenderer::Alignment(0, 1));
+    HTMLRenderer::render(&p.canvas, ps, BoxInt(0, 0, 200, 120), rowHeight, HTMLRenderer::kLeftTop);
     for (int row = 0; row < 3; ++row) {
         int top = 120 - row * rowHeight;
         EXPECT_TRUE(inkIn(p.canvas, BoxInt(0, top - rowHeight, 200, top))) << "row " << row;
@@ -108,40 +108,40 @@ TEST(HTMLRender, ParagraphsTakeOneRowPerLineFromTheTop) {
 TEST(HTMLRender, VerticalAlignmentPlacesTheBlock) {
     const int rowHeight = 20;
     auto ps = parse(L"<p>one</p><p>two</p>");
-    auto render = [&](int vertical) {
+    auto render = [&](Glib::eVerticalAlign vertical) {
         auto p = std::make_unique<Painted>(100, 100);
-        HTMLRenderer::render(&p->canvas, ps, BoxInt(0, 0, 100, 100), rowHeight, HTMLRenderer::Alignment(0, vertical));
+        HTMLRenderer::render(&p->canvas, ps, BoxInt(0, 0, 100, 100), rowHeight, Glib::TextAlignment(Glib::kAlignLeft, vertical));
         return p;
     };
-    auto middle = render(HTMLRenderer::kMiddle);
+    auto middle = render(Glib::kAlignMiddle);
     EXPECT_TRUE(inkIn(middle->canvas, BoxInt(0, 30, 100, 70)));
     EXPECT_FALSE(inkIn(middle->canvas, BoxInt(0, 70, 100, 100)));
     EXPECT_FALSE(inkIn(middle->canvas, BoxInt(0, 0, 100, 30)));
-    auto bottom = render(HTMLRenderer::kBottom);
+    auto bottom = render(Glib::kAlignBottom);
     EXPECT_TRUE(inkIn(bottom->canvas, BoxInt(0, 20, 100, 40)));
     EXPECT_TRUE(inkIn(bottom->canvas, BoxInt(0, 0, 100, 20)));
     EXPECT_FALSE(inkIn(bottom->canvas, BoxInt(0, 40, 100, 100)));
     // A block taller than its box starts at the top whatever the alignment, so its start shows.
     Painted tall(100, 30);
     HTMLRenderer::render(&tall.canvas, parse(L"<p>one</p><p>two</p><p>three</p>"), BoxInt(0, 0, 100, 30), rowHeight,
-                         HTMLRenderer::Alignment(0, HTMLRenderer::kBottom));
+                         Glib::TextAlignment(Glib::kAlignLeft, Glib::kAlignBottom));
     EXPECT_TRUE(inkIn(tall.canvas, BoxInt(0, 12, 100, 30)));
 }
 
 TEST(HTMLRender, HorizontalAlignmentComesFromTheParagraphOrTheCall) {
-    auto columns = [](const wchar_t* html, int horizontal) {
+    auto columns = [](const wchar_t* html, Glib::eHorizontalAlign horizontal) {
         Painted p(300, 30);
-        HTMLRenderer::render(&p.canvas, parse(html), BoxInt(0, 0, 300, 30), 30, HTMLRenderer::Alignment(horizontal, 1));
+        HTMLRenderer::render(&p.canvas, parse(html), BoxInt(0, 0, 300, 30), 30, Glib::TextAlignment(horizontal, Glib::kAlignTop));
         return inkColumns(p.canvas);
     };
-    auto left = columns(L"<p>word</p>", HTMLRenderer::kLeft);
+    auto left = columns(L"<p>word</p>", Glib::kAlignLeft);
     ASSERT_GE(left.first, 0);
     EXPECT_LT(left.last, 100);
-    EXPECT_GT(columns(L"<p>word</p>", HTMLRenderer::kRight).first, 200);
-    auto centred = columns(L"<p align=center>word</p>", HTMLRenderer::kRight);
+    EXPECT_GT(columns(L"<p>word</p>", Glib::kAlignRight).first, 200);
+    auto centred = columns(L"<p align=center>word</p>", Glib::kAlignRight);
     EXPECT_GT(centred.first, 100);
     EXPECT_LT(centred.last, 200);
-    EXPECT_LT(columns(L"<p align=left>word</p>", HTMLRenderer::kRight).last, 100);
+    EXPECT_LT(columns(L"<p align=left>word</p>", Glib::kAlignRight).last, 100);
 }
 
 TEST(HTMLRender, RunsAreDrawnInTheirOwnColoursAndStyles) {
@@ -201,7 +201,7 @@ TEST(HTMLRender, DegenerateCallsPaintNothing) {
     HTMLRenderer::render(nullptr, ps, BoxInt(0, 0, 100, 50), 20, {});
     EXPECT_FALSE(inkIn(p.canvas, BoxInt(0, 0, 100, 50)));
     // A row height of 0 falls back to the height of the default face.
-    HTMLRenderer::render(&p.canvas, ps, BoxInt(0, 0, 100, 50), 0, {});
+    HTMLRenderer::render(&p.canvas, ps, BoxInt(0, 0, 100, 50), 0);
     int h = Glib::fontHeight(Glib::getDefaultFont());
     EXPECT_TRUE(inkIn(p.canvas, BoxInt(0, 50 - h, 100, 50)));
     EXPECT_FALSE(inkIn(p.canvas, BoxInt(0, 0, 100, 50 - h - 1)));

@@ -1,5 +1,5 @@
-#include "draw/HTMLRenderer.h"
 #include "draw/HTMLUtils.h"
+#include "draw/HTMLRenderer.h"
 
 #include <gtest/gtest.h>
 

@@ -194,7 +194,8 @@ TEST(PaintCache, TextPaintedThroughItsKeptCoverageIsTheTextPangoPaints) {
     const BoxInt box(7, 5, 290, 35);
     for (const Colour& ink : {kInk, kSeeThrough}) {
         // Ink may reach past the logical box: left of a "j", above stacked accents.
-        for (const wchar_t* text : {L"jump A\u0302\u0302\u0302 Gain 12: \u00c9t\u00e9 AVA office", L"\u0645\u0631\u062d\u0628\u0627 \u6e32\u67d3 Wj", L"   "}) {
+        for (const wchar_t* text :
+             {L"jump A\u0302\u0302\u0302 Gain 12: \u00c9t\u00e9 AVA office", L"\u0645\u0631\u062d\u0628\u0627 \u6e32\u67d3 Wj", L"   "}) {
             Canvas kept(300, 40), fresh(300, 40);
             CanvasRenderer(&kept).fill(kBackground);
             CanvasRenderer(&fresh).fill(kBackground);

@@ -22,7 +22,7 @@ int pixelsNotOf(const Glob* g, const BoxInt& b, std::uint32_t colour) {
 
 TEST_F(PanelPainting, BorderTitleBarAndTitleTextLandWhereTheyShould) {
     Owned<StandardPanel> p(makeRootPanel(200, 120, {50, 50}));
-    p->setBorder(Border(Border::kRaised, 3, 15));
+    p->setBorder(Border(Border::kSquarePanelBorder, 3, 15));
     p->setTitle(UIString(L"Colour"));
     p->redraw();
     const Palette& pal = p->getPalette();
@@ -81,4 +81,41 @@ TEST_F(PanelPainting, OneGlobExportsAsAPNGOfItsOwnBox) {
     p->removeWidget(gone, true);
     EXPECT_FALSE(writeGlobPNG(b, file.c_str()));
     EXPECT_FALSE(std::filesystem::exists(file));
+}
+
+TEST_F(PanelPainting, EachBorderTypePaintsItsOwnFrame) {
+    Owned<StandardPanel> p(makeRootPanel(60, 40, {50, 50}));
+    const Palette& pal = p->getPalette();
+    const std::uint32_t face = TestKit::argb(pal.window()), light = TestKit::argb(pal.window(kShadeLightest));
+    const std::uint32_t darkest = TestKit::argb(pal.window(kShadeDarkest)), darker = TestKit::argb(pal.window(kShadeDarker));
+    auto paint = [&](Border::eType type) {
+        p->setBorder(Border(type, 3, 15));
+        p->redraw();
+    };
+    // The left edge's middle, and the bottom right corner.
+    auto left = [&] { return TestKit::globPixel(p.get(), 1, 20); };
+    auto corner = [&] { return TestKit::globPixel(p.get(), 59, 0); };
+
+    paint(Border::kNoBorder);
+    EXPECT_EQ(left(), face);
+    paint(Border::kMenuBorder);
+    EXPECT_EQ(left(), darkest);
+    paint(Border::kDropMenuBorder);
+    EXPECT_EQ(left(), darker);
+    paint(Border::kLineBorder);
+    EXPECT_EQ(left(), TestKit::argb(pal.text()));
+    paint(Border::kSquarePanelBorder);
+    EXPECT_EQ(left(), light);
+    paint(Border::kSunkenBorder);
+    EXPECT_EQ(left(), darkest);
+    EXPECT_EQ(corner(), light);
+    paint(Border::kDialogueBorder);
+    EXPECT_EQ(TestKit::globPixel(p.get(), 0, 20), darkest) << "the outer line";
+    EXPECT_EQ(left(), light);
+    paint(Border::kCurvedPanelBorder);
+    EXPECT_EQ(left(), darker);
+    EXPECT_EQ(corner(), face) << "the ring rounds the corner off";
+    paint(Border::kDarkenedRoundedRect);
+    EXPECT_EQ(left(), darkest);
+    EXPECT_EQ(corner(), face);
 }

@@ -1,7 +1,7 @@
-#include "draw/FontDesc.h"
-#include "core/Utf8.h"
-#include "draw/PangoSupport.h"
 #include "draw/TextAdvanceCache.h"
+#include "core/Utf8.h"
+#include "draw/FontDesc.h"
+#include "draw/PangoSupport.h"
 #include "draw/WordWrappingTextRenderer.h"
 
 #include <gtest/gtest.h>
@@ -22,10 +22,34 @@ int pangoLines(const LightweightString<wchar_t>& text, int width, const Glib::Fo
 // Log-like lines: words of the characters the cache models, some long, some
 // with kerning pairs (AV, To, Wa) and ligature candidates (fi, ffl).
 std::vector<LightweightString<wchar_t>> logLines(int count, unsigned seed) {
-    static const wchar_t* const words[] = {L"Render", L"frame", L"AVATAR", L"To", L"Wait", L"offline", L"file", L"clip_0042.mov", L"42",
-                                           L"(proxy)", L"done.", L"r\u00e9sum\u00e9", L"\u0141\u00f3d\u017a", L"x", L"WWWWWWWW", L"it's",
-                                           L"\"quoted\"", L"a,b;c:d", L"#7", L"user@host", L"[ok]", L"iiiiiiiiiiiiiiii", L"Timeline", L"(", L")",
-                                           L",", L"'", L"ffi"};
+    static const wchar_t* const words[] = {L"Render",
+                                           L"frame",
+                                           L"AVATAR",
+                                           L"To",
+                                           L"Wait",
+                                           L"offline",
+                                           L"file",
+                                           L"clip_0042.mov",
+                                           L"42",
+                                           L"(proxy)",
+                                           L"done.",
+                                           L"r\u00e9sum\u00e9",
+                                           L"\u0141\u00f3d\u017a",
+                                           L"x",
+                                           L"WWWWWWWW",
+                                           L"it's",
+                                           L"\"quoted\"",
+                                           L"a,b;c:d",
+                                           L"#7",
+                                           L"user@host",
+                                           L"[ok]",
+                                           L"iiiiiiiiiiiiiiii",
+                                           L"Timeline",
+                                           L"(",
+                                           L")",
+                                           L",",
+                                           L"'",
+                                           L"ffi"};
     std::mt19937 rng(seed);
     std::uniform_int_distribution<std::size_t> pick(0, std::size(words) - 1);
     std::uniform_int_distribution<int> length(1, 14), spaces(1, 3);
@@ -86,8 +110,8 @@ TEST(TextAdvanceCache, PixelMeasuresAreExactlyPangosForEveryFaceOfTheToolkit) {
 
 TEST(TextAdvanceCache, CountsAgreeWithPangoWheneverTheCacheAnswers) {
     TextAdvanceCache& cache = TextAdvanceCache::forThisThread();
-    for (Glib::FontDesc font : {Glib::getDefaultFont(), Glib::getDefaultFont().withStyle(Glib::FontDesc::kBold),
-                                Glib::getDefaultFont().withSize(19)}) {
+    for (Glib::FontDesc font :
+         {Glib::getDefaultFont(), Glib::getDefaultFont().withStyle(Glib::FontDesc::kBold), Glib::getDefaultFont().withSize(19)}) {
         int answered = 0, asked = 0;
         auto lines = logLines(120, 7);
         for (const auto& more : logLines(120, 1234)) lines.push_back(more);
@@ -101,7 +125,8 @@ TEST(TextAdvanceCache, CountsAgreeWithPangoWheneverTheCacheAnswers) {
                 ASSERT_EQ(fast, pangoLines(line, width, font)) << "\"" << line << "\" at " << width << " px, size " << font.size;
             }
         }
-        EXPECT_GT(answered, asked * 9 / 10) << answered << " of " << asked << ": " << "most log text stays on the fast path";
+        EXPECT_GT(answered, asked * 9 / 10) << answered << " of " << asked << ": "
+                                            << "most log text stays on the fast path";
     }
 }
 
@@ -122,9 +147,15 @@ TEST(TextAdvanceCache, ParagraphsAndNoWrappingCountLikePango) {
 TEST(TextAdvanceCache, OtherScriptsAndBreakingPunctuationGoToPango) {
     TextAdvanceCache& cache = TextAdvanceCache::forThisThread();
     Glib::FontDesc font = Glib::getDefaultFont();
-    const wchar_t* const complex[] = {L"\u0645\u0631\u062d\u0628\u0627 \u0628\u0627\u0644\u0639\u0627\u0644\u0645", L"\u6e32\u67d3\u5b8c\u6210",
-                                      L"e\u0301t\u00e9", L"tab\there", L"well-known name", L"/media/clips/a.mov", L"what? yes! {x} 50% $3 a+b a|b",
-                                      L"\u00abquote\u00bb", L"cr\rlf"};
+    const wchar_t* const complex[] = {L"\u0645\u0631\u062d\u0628\u0627 \u0628\u0627\u0644\u0639\u0627\u0644\u0645",
+                                      L"\u6e32\u67d3\u5b8c\u6210",
+                                      L"e\u0301t\u00e9",
+                                      L"tab\there",
+                                      L"well-known name",
+                                      L"/media/clips/a.mov",
+                                      L"what? yes! {x} 50% $3 a+b a|b",
+                                      L"\u00abquote\u00bb",
+                                      L"cr\rlf"};
     for (const wchar_t* text : complex) {
         EXPECT_EQ(cache.countLines(text, 60, font), 0) << LightweightString<wchar_t>(text);
         EXPECT_EQ(cache.measure(text, font), -1);

@@ -1,5 +1,5 @@
-#include "draw/Canvas.h"
 #include "draw/TextLayout.h"
+#include "draw/Canvas.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
+#include "draw/TextStyle.h"
 #include "controls/iTableAdaptor.h"
 #include "draw/Canvas.h"
 #include "draw/CanvasRenderer.h"
-#include "draw/TextStyle.h"
 
 #include <gtest/gtest.h>
 

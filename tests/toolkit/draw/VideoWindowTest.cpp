@@ -1,5 +1,5 @@
-#include "draw/Canvas.h"
 #include "draw/VideoWindow.h"
+#include "draw/Canvas.h"
 #include "image/GPUImage.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
+#include "draw/WordWrappingTextRenderer.h"
 #include "core/Utf8.h"
 #include "draw/Canvas.h"
 #include "draw/CanvasRenderer.h"
 #include "draw/FontDesc.h"
-#include "draw/WordWrappingTextRenderer.h"
 
 #include <gtest/gtest.h>
 
@@ -91,7 +91,9 @@ TEST(WordWrap, EmptyAndBadTextDegradeToSomethingDrawable) {
     wchar_t odd[] = {L'a', 0, L'b', static_cast<wchar_t>(0xD800), static_cast<wchar_t>(0x110000), L'c'};
     WordWrappingTextRenderer w(LightweightString<wchar_t>(odd, 6), font, 0);
     ASSERT_EQ(w.numLines(), 1);
-    EXPECT_EQ(w.lines()[0], L"a\xFFFD" L"b\xFFFD\xFFFD" L"c");
+    EXPECT_EQ(w.lines()[0], L"a\xFFFD"
+                            L"b\xFFFD\xFFFD"
+                            L"c");
     // Bytes that are not UTF-8, decoded as the toolkit decodes them, still lay out.
     EXPECT_EQ(WordWrappingTextRenderer::calcNumDisplayLines(fromUTF8("bad \xC3\x28 bytes \xFF"), 0, font), 1);
     // A font that is not installed falls back to one that is.

@@ -1,5 +1,5 @@
-#include "draw/Canvas.h"
 #include "glob/CanvasStack.h"
+#include "draw/Canvas.h"
 #include "glob/FileDrag.h"
 #include "glob/GlobManager.h"
 #include "glob/InputDispatcher.h"

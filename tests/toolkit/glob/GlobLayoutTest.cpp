@@ -54,7 +54,7 @@ TEST_F(GlobLayout, CornerEdgeAndCentreOriginsOfTheWholePanel) {
 
 TEST_F(GlobLayout, UserOriginsKeepInsideBorderAndTitle) {
     Owned<StandardPanel> p(makeRootPanel(400, 300));
-    p->setBorder(Border(Border::kLine, 4, 15));
+    p->setBorder(Border(Border::kMenuBorder, 4, 15));
     p->setTitle(UIString(L"Layout"));
     int titleH = UifStd::instance().getTitleHeight();
     BoxInt ua = p->getUserArea();
@@ -115,7 +115,7 @@ TEST_F(GlobLayout, ParentResizeKeepsTopAnchoredChildrenAtTheTop) {
 
 TEST_F(GlobLayout, WidthZeroChildrenSpanTheUserArea) {
     Owned<StandardPanel> p(makeRootPanel(320, 200));
-    p->setBorder(Border(Border::kRaised, 3, 15));
+    p->setBorder(Border(Border::kSquarePanelBorder, 3, 15));
     p->setTitle(UIString(L"Rows"));
     Block::InitArgs zero(0, 20, kRed);
     Block* row = p->createWidget<Block>(zero, Glob::UserTopLeft(0, 0));
@@ -143,9 +143,19 @@ TEST_F(GlobLayout, BadSizesAndPositionsDegrade) {
     TestKit::pump();
 }
 
-TEST_F(GlobLayout, CoordinateOriginAndRelativityWordsRoundTrip) {
-    for (int i = 0; i <= kNoPosition; ++i) EXPECT_EQ(CoordinateOriginFromString(asString(static_cast<eCoordinateOrigin>(i))), i);
-    for (int i = 0; i <= kNoRelativity; ++i) EXPECT_EQ(WidgetRelativityFromString(asString(static_cast<eWidgetRelativity>(i))), i);
+TEST_F(GlobLayout, PlacementNumbersKeepTheirWordsAndNumbersThatNameNothingGiveNone) {
+    for (int i = kSiblingRelative; i <= kNoPosition; ++i) EXPECT_EQ(CoordinateOriginFromString(asString(CoordinateOriginFromInt(i))), i);
+    for (int i = kNoRelativity; i <= kBelow; ++i) EXPECT_EQ(WidgetRelativityFromString(asString(WidgetRelativityFromInt(i))), i);
+    // Files hold the words, so a word must stay with its place whatever the numbers.
+    EXPECT_EQ(asString(kTopLeft), "TopLeft");
+    EXPECT_EQ(asString(kUserBottomRight), "UserBottomRight");
+    EXPECT_EQ(asString(kUserTopCentre), "UserTopCentre");
+    EXPECT_EQ(asString(kRightOf), "RightOf");
+    EXPECT_EQ(asString(kBelow), "Below");
     EXPECT_EQ(CoordinateOriginFromString("sideways"), kNoPosition);
     EXPECT_EQ(WidgetRelativityFromString(""), kNoRelativity);
+    EXPECT_EQ(CoordinateOriginFromInt(18), kNoPosition);
+    EXPECT_EQ(CoordinateOriginFromInt(-1), kNoPosition);
+    EXPECT_EQ(WidgetRelativityFromInt(5), kNoRelativity);
+    EXPECT_EQ(WidgetAlignmentFromInt(4), kAlignNone);
 }

@@ -157,9 +157,18 @@ TEST_F(GlobOperations, SiblingVisitorsSeeOlderAndYoungerInOrder) {
         kids.push_back(p->createWidget<Block>(a, Glob::BottomLeft(i * 10, 0)));
     }
     std::vector<Glob*> older, younger, all, post;
-    kids[2]->visitOlderSiblings([&](Glob* g) { older.push_back(g); return true; });
-    kids[2]->visitYoungerSiblings([&](Glob* g) { younger.push_back(g); return true; });
-    kids[2]->visitSiblings([&](Glob* g) { all.push_back(g); return true; });
+    kids[2]->visitOlderSiblings([&](Glob* g) {
+        older.push_back(g);
+        return true;
+    });
+    kids[2]->visitYoungerSiblings([&](Glob* g) {
+        younger.push_back(g);
+        return true;
+    });
+    kids[2]->visitSiblings([&](Glob* g) {
+        all.push_back(g);
+        return true;
+    });
     p->visitPostOrder([&](Glob* g) { post.push_back(g); });
     EXPECT_EQ(older, (std::vector<Glob*>{kids[0], kids[1]}));
     EXPECT_EQ(younger, (std::vector<Glob*>{kids[3]}));

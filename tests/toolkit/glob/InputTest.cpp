@@ -118,7 +118,7 @@ TEST_F(Input, AModalPanelTakesAllInput) {
 TEST_F(Input, CloseBoxAndTitleDragWork) {
     auto* p = makeRootPanel(200, 150, {100, 100});
     p->setTitle(UIString(L"Tools"));
-    p->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kMoveByTitle);
+    p->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kTitleBar);
     IdStamp stamp = p->stamp();
     int titleMid = 150 - UifStd::instance().getTitleHeight() / 2;
     TestKit::drag({100 + 50, 100 + titleMid}, {100 + 80, 100 + titleMid - 40});
@@ -132,4 +132,40 @@ TEST_F(Input, CloseBoxAndTitleDragWork) {
     ASSERT_NE(close, nullptr);
     TestKit::click(TestKit::centreOf(close));
     EXPECT_FALSE(EventHandler::valid(p, stamp));
+}
+
+namespace {
+class MainActionPanel : public StandardPanel {
+public:
+    using StandardPanel::StandardPanel;
+    int handleMessageEvent(const LightweightString<char>& message, Glob* sender) override {
+        if (message == doItMsg) ++doIts;
+        return StandardPanel::handleMessageEvent(message, sender);
+    }
+    int doIts = 0;
+};
+} // namespace
+
+TEST_F(Input, TheCogsOpenThePanelsMenuAndTheDoItButtonPostsItsMainMessage) {
+    auto* p = new MainActionPanel(StandardPanel::InitArgs(200, 150));
+    Owned<MainActionPanel> owner(p);
+    p->setupRootPos({100, 100});
+    GlobManager::instance().realize(p);
+    p->addMenuItem(MenuItem(UIString(L"Reset"), WidgetCallback("reset")));
+    p->addStandardWidgets(StandardPanel::kCogsButton | StandardPanel::kDoItButton);
+    ASSERT_TRUE(p->hasTitleBar()) << "furniture brings a title bar";
+    std::vector<Glob*> furniture;
+    p->visitChildren([&](Glob* g) {
+        if (LightweightString<char>(g->idstring()) == "FurnitureButton") furniture.push_back(g);
+        return true;
+    });
+    ASSERT_EQ(furniture.size(), 2u);
+    TestKit::click(TestKit::centreOf(furniture[1]));
+    TestKit::pump();
+    EXPECT_EQ(p->doIts, 1);
+    EXPECT_EQ(p->getOpenMenu(), nullptr);
+    TestKit::click(TestKit::centreOf(furniture[0]));
+    TestKit::pump();
+    EXPECT_NE(p->getOpenMenu(), nullptr);
+    EXPECT_EQ(p->doIts, 1);
 }

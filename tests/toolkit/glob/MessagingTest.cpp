@@ -1,7 +1,7 @@
 #include "Blocks.h"
 
-#include "glob/GlobManager.h"
 #include "core/WidgetCallback.h"
+#include "glob/GlobManager.h"
 #include "glob/Messaging.h"
 
 #include <thread>
@@ -112,11 +112,11 @@ TEST_F(Messaging, TimerTicksReachGlobsThatAskedForThem) {
     Owned<Ticker> t(new Ticker);
     GlobManager::instance().tickTimers();
     EXPECT_EQ(t->ticks, 0);
-    t->setInterest(4096);
+    t->setInterest(Glob::kTimerInterest);
     GlobManager::instance().tickTimers();
     GlobManager::instance().tickTimers();
     EXPECT_EQ(t->ticks, 2);
-    t->clearInterest(4096);
+    t->clearInterest(Glob::kTimerInterest);
     GlobManager::instance().tickTimers();
     EXPECT_EQ(t->ticks, 2);
 }

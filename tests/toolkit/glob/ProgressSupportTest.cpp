@@ -6,6 +6,9 @@
 #include "glob/SuspendRefreshOffToggle.h"
 #include "glob/UpdateDeferrer.h"
 #include "glob/glib_getPosForWindow.h"
+#include "glob/makeTopLevel.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -59,15 +62,22 @@ TEST_F(ProgressSupport, AnUpdateDeferrerPaintsWhatWasAskedInItsScopeOnceAtItsEnd
     EXPECT_TRUE(TestKit::pixelNear(b, 5, 5, 0xFF0000FF));
 }
 
-TEST_F(ProgressSupport, NewWindowsArePlacedWhollyOnTheScreen) {
+TEST_F(ProgressSupport, NewWindowsArePlacedWhollyOnTheScreenOrTopFirstWhenTooTall) {
     const Screen& s = GlobManager::instance().screen();
     for (XY<int> size : {XY<int>(400, 80), XY<int>(s.width() - 10, 200), XY<int>(0, 0), XY<int>(-50, 70000)}) {
         XY<int> at = glib_getPosForWindow(size.x, size.y);
         EXPECT_GE(at.x, 0);
+        if (size.y > s.height()) {
+            EXPECT_EQ(at.y + std::min(size.y, 65535), s.height()) << "the top, with the title bar, stays on the screen";
+            continue;
+        }
         EXPECT_GE(at.y, 0);
-        if (size.x > 0 && size.y > 0 && size.y < s.height()) {
+        if (size.x > 0 && size.y > 0) {
             EXPECT_LE(at.x + size.x, s.width());
             EXPECT_LE(at.y + size.y, s.height());
         }
     }
+    // A new panel larger than the screen is cut to it, so that all of it can be reached.
+    TestKit::Owned<StandardPanel> huge(makeTopLevel<StandardPanel>(StandardPanel::InitArgs(5000, 3000), Glob::Centre(0, 0)));
+    EXPECT_EQ(huge->box(), BoxInt(0, 0, s.width(), s.height()));
 }

@@ -1,5 +1,5 @@
-#include "TempFolder.h"
 #include "platform/ConfigbFile.h"
+#include "TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -31,20 +31,31 @@ TEST(ConfigbFile, TextKeepsEveryEntryItsTypeAndTheOrder) {
     configb none;
     ASSERT_TRUE(ConfigbFile::fromText(ConfigbFile::toText(none), read));
     EXPECT_TRUE(read.empty()) << "an empty store reads back empty";
+    EXPECT_TRUE(ConfigbFile::isStore(ConfigbFile::toText(sample())));
+    EXPECT_TRUE(ConfigbFile::isStore(ConfigbFile::toText(none)));
 }
 
 TEST(ConfigbFile, TextThatIsNotAStoreLeavesItUntouched) {
     const LightweightString<char> good = ConfigbFile::toText(sample());
-    const std::vector<LightweightString<char>> bad = {
-        "", "   ", "garbage", "[1, 2]", "\"text\"", "42", "null", "{\"gain\": {\"type\": \"double\", \"value\": \"0.5\"",
-        good.substr(0, good.size() / 2), good.substr(0, good.size() - 3), LightweightString<char>("{\"a\":\xFF}"),
-        LightweightString<char>(std::string("{\"a\"\0:1}", 8))};
+    const std::vector<LightweightString<char>> bad = {"",
+                                                      "   ",
+                                                      "garbage",
+                                                      "[1, 2]",
+                                                      "\"text\"",
+                                                      "42",
+                                                      "null",
+                                                      "{\"gain\": {\"type\": \"double\", \"value\": \"0.5\"",
+                                                      good.substr(0, good.size() / 2),
+                                                      good.substr(0, good.size() - 3),
+                                                      LightweightString<char>("{\"a\":\xFF}"),
+                                                      LightweightString<char>(std::string("{\"a\"\0:1}", 8))};
     for (const auto& text : bad) {
         Owner owner;
         configb store(&owner);
         store.set("kept", ConfigEntryT("int", "7"));
         owner.dirtied = 0;
         EXPECT_FALSE(ConfigbFile::fromText(text, store)) << text;
+        EXPECT_FALSE(ConfigbFile::isStore(text)) << text;
         ASSERT_EQ(store.size(), 1u) << text;
         EXPECT_EQ(store.get("kept"), LightweightString<char>("7"));
         EXPECT_EQ(owner.dirtied, 0) << text;
@@ -53,10 +64,12 @@ TEST(ConfigbFile, TextThatIsNotAStoreLeavesItUntouched) {
 
 TEST(ConfigbFile, EntriesOfTheWrongShapeAreDroppedAndTheRestKept) {
     configb read;
-    ASSERT_TRUE(ConfigbFile::fromText("{\"a\": {\"type\": \"int\", \"value\": \"3\"}, \"b\": 5, \"c\": {\"type\": \"int\"},"
-                                      " \"d\": {\"type\": 1, \"value\": \"x\"}, \"e\": {\"type\": \"text\", \"value\": 4},"
-                                      " \"f\": [\"int\", \"1\"], \"g\": {\"value\": \"ok\", \"type\": \"text\", \"more\": 1}}",
-                                      read));
+    const LightweightString<char> mixed = "{\"a\": {\"type\": \"int\", \"value\": \"3\"}, \"b\": 5, \"c\": {\"type\": \"int\"},"
+                                          " \"d\": {\"type\": 1, \"value\": \"x\"}, \"e\": {\"type\": \"text\", \"value\": 4},"
+                                          " \"f\": [\"int\", \"1\"], \"g\": {\"value\": \"ok\", \"type\": \"text\", \"more\": 1}}";
+    ASSERT_TRUE(ConfigbFile::fromText(mixed, read));
+    EXPECT_FALSE(ConfigbFile::isStore(mixed)) << "readable, but more than a store";
+    EXPECT_FALSE(ConfigbFile::isStore("{\"params\": [{\"type\": \"bool\", \"name\": \"on\"}]}")) << "a panel description";
     ASSERT_EQ(read.size(), 2u);
     EXPECT_EQ(read.entries()[0].first, LightweightString<char>("a"));
     EXPECT_EQ(read.entries()[0].second, ConfigEntryT("int", "3"));

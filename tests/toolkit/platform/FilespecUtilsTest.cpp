@@ -1,6 +1,6 @@
+#include "platform/FilespecUtils.h"
 #include "TempFolder.h"
 #include "core/Utf8.h"
-#include "platform/FilespecUtils.h"
 #include "platform/Paths.h"
 #include "platform/getSystemLogDirectory.h"
 
@@ -26,7 +26,8 @@ bool createsInside(const W& path, const std::string& folder) {
 
 TEST(FilespecUtils, AnOrdinaryNameIsJoinedWithItsExtension) {
     EXPECT_EQ(FilespecUtils::makeValidFilespec(L"/tmp/logs", L"log", L".txt", true, '_'), L"/tmp/logs/log.txt");
-    EXPECT_EQ(FilespecUtils::makeValidFilespec(L"/tmp/logs/", L"Render r\u00e9sum\u00e9", L"html", true, '_'), L"/tmp/logs/Render r\u00e9sum\u00e9.html");
+    EXPECT_EQ(FilespecUtils::makeValidFilespec(L"/tmp/logs/", L"Render r\u00e9sum\u00e9", L"html", true, '_'),
+              L"/tmp/logs/Render r\u00e9sum\u00e9.html");
     EXPECT_EQ(FilespecUtils::makeValidFilespec(L"", L"log", L"", true, '_'), L"log");
 }
 

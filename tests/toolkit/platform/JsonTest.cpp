@@ -103,8 +103,7 @@ TEST(TextFile, AFailedSaveLeavesTheOldFileAndNoTemporary) {
     EXPECT_FALSE(f.save(fromUTF8(dir.file("blocked.txt").c_str())));
     EXPECT_FALSE(f.save(L"/no/such/folder/x.txt"));
     EXPECT_EQ(dir.read("keep.txt"), "old contents\n");
-    for (auto& entry : std::filesystem::directory_iterator(dir.str()))
-        EXPECT_EQ(entry.path().filename().string().find(".tmp"), std::string::npos);
+    for (auto& entry : std::filesystem::directory_iterator(dir.str())) EXPECT_EQ(entry.path().filename().string().find(".tmp"), std::string::npos);
     EXPECT_TRUE(f.save());
     EXPECT_EQ(dir.read("keep.txt"), "old contents\nmore\n");
 }

@@ -82,8 +82,8 @@ TEST(Config, IntegersFromTheFileAndDefaultsForAnythingElse) {
 TEST(TestHome, EveryFolderOfTheUserLiesInTheTestsOwnFreshFolder) {
     const std::string home = TestKit::TestHome::path().string();
     ASSERT_FALSE(home.empty());
-    for (const LightweightString<char>& folder : {Configuration::settingsFolder(), toUTF8(OS()->getApplicationDataFolder()),
-                                                  toUTF8(getSystemLogDirectory()), toUTF8(OS()->getUserFolder())})
+    for (const LightweightString<char>& folder :
+         {Configuration::settingsFolder(), toUTF8(OS()->getApplicationDataFolder()), toUTF8(getSystemLogDirectory()), toUTF8(OS()->getUserFolder())})
         EXPECT_EQ(folder.str().rfind(home + "/", 0), 0u) << folder.str();
 }
 

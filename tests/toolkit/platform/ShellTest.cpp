@@ -1,7 +1,7 @@
 #include "TempFolder.h"
 
-#include "platform/OS.h"
 #include "core/Utf8.h"
+#include "platform/OS.h"
 #include "platform/revealFilesInOS.h"
 
 #include <gtest/gtest.h>

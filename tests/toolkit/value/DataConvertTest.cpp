@@ -1,5 +1,5 @@
-#include "core/Utf8.h"
 #include "value/DataConvert.h"
+#include "core/Utf8.h"
 
 #include <gtest/gtest.h>
 
@@ -18,8 +18,7 @@ T from(const wchar_t* s) {
 } // namespace
 
 TEST(DataConvert, NumbersSurviveARoundTripThroughText) {
-    for (double d : {0.0, 0.1, -2.5, 1.0 / 3.0, 1e-300, 123456789.125})
-        EXPECT_EQ(from<double>(text(d).c_str()), d) << toUTF8(text(d)).c_str();
+    for (double d : {0.0, 0.1, -2.5, 1.0 / 3.0, 1e-300, 123456789.125}) EXPECT_EQ(from<double>(text(d).c_str()), d) << toUTF8(text(d)).c_str();
     EXPECT_EQ(text(0.1), WString(L"0.1")) << "the shortest text that reads back";
     EXPECT_EQ(text(-42), WString(L"-42"));
     EXPECT_EQ(text(4000000000u), WString(L"4000000000"));

@@ -1,5 +1,5 @@
-#include "core/FunctionCallback.h"
 #include "value/Notifier.h"
+#include "core/FunctionCallback.h"
 
 #include <gtest/gtest.h>
 
@@ -8,11 +8,12 @@
 
 namespace {
 Zn::Ptr<iCallbackBase<int, NotifyMsg>> counter(std::atomic<int>& n, std::vector<LightweightString<char>>* names = nullptr) {
-    return Zn::Ptr<iCallbackBase<int, NotifyMsg>>(new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([&n, names](const NotifyMsg& m) {
-        ++n;
-        if (names) names->push_back(m.name());
-        return 0;
-    })));
+    return Zn::Ptr<iCallbackBase<int, NotifyMsg>>(
+        new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([&n, names](const NotifyMsg& m) {
+            ++n;
+            if (names) names->push_back(m.name());
+            return 0;
+        })));
 }
 } // namespace
 

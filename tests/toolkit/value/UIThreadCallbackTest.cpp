@@ -1,7 +1,7 @@
+#include "value/UIThreadCallback.h"
 #include "core/FunctionCallback.h"
 #include "glob/StandardPanel.h"
 #include "testing/TestKit.h"
-#include "value/UIThreadCallback.h"
 
 #include <gtest/gtest.h>
 
@@ -24,10 +24,11 @@ public:
 class UIThreadCallbacks : public TestKit::ScreenTest {};
 
 Zn::Ptr<iCallbackBase<int, NotifyMsg>> constant(int value, int* calls) {
-    return Zn::Ptr<iCallbackBase<int, NotifyMsg>>(new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([value, calls](const NotifyMsg&) {
-        ++*calls;
-        return value;
-    })));
+    return Zn::Ptr<iCallbackBase<int, NotifyMsg>>(
+        new FunctionCallback<NotifyMsg, int>(std::function<int(const NotifyMsg&)>([value, calls](const NotifyMsg&) {
+            ++*calls;
+            return value;
+        })));
 }
 
 } // namespace
