@@ -7,7 +7,7 @@
 #include "params/UIBuilder.h"
 
 namespace {
-const Border kPanelBorder(Border::kRaised, 0, 15);
+const Border kPanelBorder(Border::kDropMenuBorder, 0, 15);
 } // namespace
 
 CompressionSettingsPanel::InitArgs::InitArgs(const UIBuilder::ParamList& p, configb& s, unsigned short width) : InitArgs(p, &s, width) {}
@@ -23,7 +23,7 @@ CompressionSettingsPanel::InitArgs::InitArgs(const UIBuilder::ParamList& p, conf
 }
 
 CompressionSettingsPanel::CompressionSettingsPanel(const InitArgs& args) : StandardPanel(args), state_(args.state) {
-    setBorderStyle(Border::kRaised);
+    setBorderStyle(Border::kDropMenuBorder);
     params_ = UIBuilder::build(args.params, this);
     if (state_) params_->restoreState(*state_);
 }

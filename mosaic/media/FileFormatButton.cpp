@@ -36,8 +36,9 @@ FileFormatButton::FileFormatButton(Compression::eUsage usage, const LightweightS
     : FileFormatButton(argsOf(usage, key, palette, width, height, canvas)) {}
 
 void FileFormatButton::init(Compression::eUsage usage) {
-    const LightweightString<wchar_t> stored =
-        preferenceKey_.empty() ? LightweightString<wchar_t>(kDefaultFileType) : prefs().getPreference(preferenceKey_, LightweightString<wchar_t>(kDefaultFileType));
+    const LightweightString<wchar_t> stored = preferenceKey_.empty()
+                                                  ? LightweightString<wchar_t>(kDefaultFileType)
+                                                  : prefs().getPreference(preferenceKey_, LightweightString<wchar_t>(kDefaultFileType));
     std::vector<MenuItem> rows;
     unsigned short selected = 0;
     for (const LightweightString<char>& id : Zn::FileWriterInfo::getSupportedFormatTypes(usage)) {

@@ -34,7 +34,8 @@ FrameRateButton::FrameRateButton(unsigned short width, unsigned short height, co
 void FrameRateButton::init(const std::vector<Zn::FrameRate>& rates) {
     std::vector<MenuItem> rows;
     rows.reserve(rates.size());
-    for (Zn::FrameRate rate : rates) rows.emplace_back(UIString(Zn::getDisplayString(rate)), WidgetCallback(), getPalette().text(kTextNormal), getCol());
+    for (Zn::FrameRate rate : rates)
+        rows.emplace_back(UIString(Zn::getDisplayString(rate)), WidgetCallback(), getPalette().text(kTextNormal), getCol());
     setStrings(rows, MenuItemIndex());
 }
 

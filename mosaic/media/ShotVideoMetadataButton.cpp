@@ -23,10 +23,12 @@ void ShotVideoMetadataButton::setFormats(const std::set<ShotVideoMetadata>& form
     const Palette& palette = getPalette();
     std::vector<MenuItem> rows;
     for (auto& [group, members] : groups) {
-        const bool standardDefinition = group == Zn::DigitalVideoFormats::FormatGroups::kSD525 || group == Zn::DigitalVideoFormats::FormatGroups::kSD625;
+        const bool standardDefinition =
+            group == Zn::DigitalVideoFormats::FormatGroups::kSD525 || group == Zn::DigitalVideoFormats::FormatGroups::kSD625;
         const UIString heading(standardDefinition ? resourceStrW(kStandardDefinitionHeading) : Zn::getDisplayString(group));
         rows.emplace_back(heading, WidgetCallback(), palette.subheadingText(), kMenuItemHeading);
-        std::stable_sort(members.begin(), members.end(), [](const ShotVideoMetadata& a, const ShotVideoMetadata& b) { return a.getHeight() < b.getHeight(); });
+        std::stable_sort(members.begin(), members.end(),
+                         [](const ShotVideoMetadata& a, const ShotVideoMetadata& b) { return a.getHeight() < b.getHeight(); });
         for (const ShotVideoMetadata& f : members) {
             MenuItem row(UIString(f.getDisplayString()), WidgetCallback(), palette.text(kTextNormal), kMenuItemSelectable);
             row.setSecondText(UIString(Zn::WStringFromInteger(f.getWidth()) + L"x" + Zn::WStringFromInteger(f.getHeight())));

@@ -34,7 +34,8 @@ ShotVideoMetadata StoredVideoFormat::read(const LightweightString<char>& text) {
     const Zn::Image::FormatUID uid(root->getString("uid"));
     if (!Zn::DigitalVideoFormats::isValidFormat(uid)) return {};
     const int bpc = storedInt(*root, "bpc", 1, kMaxBitsPerComponent, kDefaultBitsPerComponent);
-    const auto scan = static_cast<Zn::Image::ScanMode>(storedInt(*root, "sm", Zn::Image::kScanUnknown, Zn::Image::kProgressiveSegmentedFrame, kDefaultScanMode));
+    const auto scan =
+        static_cast<Zn::Image::ScanMode>(storedInt(*root, "sm", Zn::Image::kScanUnknown, Zn::Image::kProgressiveSegmentedFrame, kDefaultScanMode));
     const LightweightString<char> ar = root->getString("ar");
     const Zn::Image::AspectRatio aspect = ar == "16:9" ? Zn::Image::kAspect16x9 : ar == "4:3" ? Zn::Image::kAspect4x3 : Zn::Image::kAspectUnknown;
     return ShotVideoMetadata(Zn::DigitalVideoFormats::findByUID(uid), Zn::Image::Format("YUY2"), Zn::kFrameRateNone, aspect, true, scan,

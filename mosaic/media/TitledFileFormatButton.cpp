@@ -20,8 +20,8 @@ TitledFileFormatButtonInitArgs argsOf(Compression::eUsage usage, const Lightweig
 
 TitledFileFormatButton::TitledFileFormatButton(const InitArgs& args) : TitleGlob(args) { init(args.usage, args.preferenceKey, args.buttonWidth); }
 
-TitledFileFormatButton::TitledFileFormatButton(Compression::eUsage usage, const LightweightString<char>& key, unsigned short width, unsigned short height,
-                                               const Palette& palette, Canvas* canvas)
+TitledFileFormatButton::TitledFileFormatButton(Compression::eUsage usage, const LightweightString<char>& key, unsigned short width,
+                                               unsigned short height, const Palette& palette, Canvas* canvas)
     : TitledFileFormatButton(argsOf(usage, key, width, height, palette, canvas)) {}
 
 void TitledFileFormatButton::init(Compression::eUsage usage, LightweightString<char> preferenceKey, unsigned short buttonWidth) {

@@ -116,7 +116,8 @@ std::vector<Compression::Setting> Compression::getSettings(Zn::Image::Format cod
     std::vector<Setting> settings;
     const CompressionCodec* c = CompressionTable::find(code);
     if (c && c->bitRate > 0) settings.push_back({CompressionFormat::kBitRate, UIString(kBitRateLegend), c->bitRate, 1.0, kMaxBitRate, false});
-    if (c && c->keyFrameInterval > 0) settings.push_back({kKeyFrameInterval, UIString(kKeyFrameLegend), double(c->keyFrameInterval), 1.0, kMaxKeyFrameInterval, true});
+    if (c && c->keyFrameInterval > 0)
+        settings.push_back({kKeyFrameInterval, UIString(kKeyFrameLegend), double(c->keyFrameInterval), 1.0, kMaxKeyFrameInterval, true});
     return settings;
 }
 
@@ -127,12 +128,14 @@ Compression::EncoderSettings Compression::getEncoderSettings(const CompressionFo
     const Picture p = pictureOf(format);
     out.encoder = c->encoder;
     out.pixelFormat = (c->rules & CompressionCodec::kDVProfiles) ? FFmpegWriters::instance().dvPixelFormat(p.width, p.height, p.rate)
-                                                               : LightweightString<char>(c->pixelFormat);
+                                                                 : LightweightString<char>(c->pixelFormat);
     out.scanMode = p.interlaced ? format.getScanMode() : Zn::Image::kProgressive;
     std::string options = c->options;
     auto add = [&options](const std::string& option) { options += (options.empty() ? "" : ":") + option; };
-    if (c->bitRate > 0) add("b=" + std::to_string(static_cast<long long>(settingOr(compression, CompressionFormat::kBitRate, c->bitRate, kMaxBitRate) * 1e6)));
-    if (c->keyFrameInterval > 0) add("g=" + std::to_string(static_cast<int>(settingOr(compression, kKeyFrameInterval, c->keyFrameInterval, kMaxKeyFrameInterval))));
+    if (c->bitRate > 0)
+        add("b=" + std::to_string(static_cast<long long>(settingOr(compression, CompressionFormat::kBitRate, c->bitRate, kMaxBitRate) * 1e6)));
+    if (c->keyFrameInterval > 0)
+        add("g=" + std::to_string(static_cast<int>(settingOr(compression, kKeyFrameInterval, c->keyFrameInterval, kMaxKeyFrameInterval))));
     out.options = LightweightString<char>(options);
     return out;
 }

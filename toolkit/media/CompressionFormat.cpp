@@ -7,6 +7,4 @@ void CompressionFormat::setBitRate(double megabitsPerSecond) {
     settings.set(kBitRate, ConfigEntryT("double", toUTF8(DataConvert::toText(megabitsPerSecond))));
 }
 
-double CompressionFormat::getBitRate() const {
-    return DataConvert::doubleFromText(fromUTF8(settings.get(kBitRate)));
-}
+double CompressionFormat::getBitRate() const { return DataConvert::doubleFromText(fromUTF8(settings.get(kBitRate))); }

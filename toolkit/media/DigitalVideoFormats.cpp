@@ -93,9 +93,7 @@ bool DigitalVideoFormats::isValidFormat(const Image::FormatUID& uid) {
     return !uid.isNull() && uid.value() <= table.size();
 }
 
-Info DigitalVideoFormats::findByUID(const Image::FormatUID& uid) {
-    return isValidFormat(uid) ? getFormats()[uid.value() - 1] : Info();
-}
+Info DigitalVideoFormats::findByUID(const Image::FormatUID& uid) { return isValidFormat(uid) ? getFormats()[uid.value() - 1] : Info(); }
 
 LightweightString<wchar_t> Zn::getDisplayString(DigitalVideoFormats::FormatGroups::FormatGroup group) {
     const auto g = static_cast<std::size_t>(group);

@@ -120,8 +120,7 @@ bool FFmpegWriters::encoderUsable(const CompressionCodec& codec) {
     const AVCodec* c = findEncoder(codec);
     if (!c || (c->capabilities & (AV_CODEC_CAP_HARDWARE | AV_CODEC_CAP_HYBRID))) return false;
     bool takesPixels = !*codec.pixelFormat || !c->pix_fmts;
-    for (const AVPixelFormat* f = c->pix_fmts; f && *f != AV_PIX_FMT_NONE && !takesPixels; ++f)
-        takesPixels = *f == av_get_pix_fmt(codec.pixelFormat);
+    for (const AVPixelFormat* f = c->pix_fmts; f && *f != AV_PIX_FMT_NONE && !takesPixels; ++f) takesPixels = *f == av_get_pix_fmt(codec.pixelFormat);
     return it->second = takesPixels;
 }
 

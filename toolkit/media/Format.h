@@ -16,8 +16,7 @@ public:
 
     constexpr Format() = default;
     constexpr explicit Format(std::uint32_t code) : code_(code) {}
-    constexpr Format(const char (&chars)[5])
-        : code_(byte(chars[0]) | byte(chars[1]) << 8 | byte(chars[2]) << 16 | byte(chars[3]) << 24) {}
+    constexpr Format(const char (&chars)[5]) : code_(byte(chars[0]) | byte(chars[1]) << 8 | byte(chars[2]) << 16 | byte(chars[3]) << 24) {}
 
     constexpr std::uint32_t code() const { return code_; }
     constexpr bool isNone() const { return code_ == kNone; }
