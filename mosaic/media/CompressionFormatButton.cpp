@@ -35,7 +35,7 @@ void CompressionFormatButton::setOutputFormat(const LightweightString<char>& fil
     if (codes.empty()) {
         // The old list is kept; with no row selected, the selection reads as none.
         getBtn()->setStrings(std::vector<MenuItem>(), MenuItemIndex());
-        if (activeFollowsFormats_) setActive(false, kRedraw);
+        followFormats(false);
     } else {
         const CompressionFormat current = getCompressionFormat();
         setCompressionFormat(VideoCompressionInfo(format, CompressionFormat(codes.front())), codes);
@@ -53,7 +53,7 @@ void CompressionFormatButton::setCompressionFormat(const VideoCompressionInfo& i
         rows.emplace_back(UIString(row.getDisplayString(displayFlags_)), WidgetCallback(), getPalette().text(kTextNormal), getCol());
     }
     setStrings(rows, MenuItemIndex(info.getDisplayString(displayFlags_)));
-    if (activeFollowsFormats_) setActive(!validFormats.empty(), kRedraw);
+    followFormats(!validFormats.empty());
 }
 
 void CompressionFormatButton::setCompressionFormat(const VideoCompressionInfo& info) {
@@ -81,6 +81,11 @@ void CompressionFormatButton::setSelected(const CompressionFormat& format, const
         setCompressionFormat(VideoCompressionInfo(video, choice));
     }
     Drawable::update();
+}
+
+void CompressionFormatButton::followFormats(bool any) {
+    // Painting the whole row again for an unchanged state would cost more than the rest of a change.
+    if (activeFollowsFormats_ && isActive() != any) setActive(any, kRedraw);
 }
 
 CompressionFormat CompressionFormatButton::getCompressionFormat() const {

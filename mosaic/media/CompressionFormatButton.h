@@ -49,6 +49,8 @@ public:
 
 private:
     void init(const InitArgs& args);
+    // With active following formats, active when there are `any`.
+    void followFormats(bool any);
 
     std::vector<Zn::Image::Format> validFormats_;
     unsigned long displayFlags_ = VideoCompressionInfo::kShowName;
