@@ -24,7 +24,7 @@ public:
     };
 
     static constexpr const char* CompressionFormatChangedMsg = "CFBChangedMsg";
-    static constexpr ResId kTitle = 411;
+    static constexpr ResId kTitle = 611;
 
     explicit CompressionFormatButton(const InitArgs& args);
     const char* idstring() const override { return "CompressionFormatButton"; }

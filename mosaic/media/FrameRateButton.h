@@ -16,7 +16,7 @@ public:
         InitArgs(const std::vector<Zn::FrameRate>& rates, unsigned short width, unsigned short height);
     };
 
-    static constexpr ResId kTitle = 413;
+    static constexpr ResId kTitle = 613;
 
     explicit FrameRateButton(const InitArgs& args);
     FrameRateButton(const std::vector<Zn::FrameRate>& rates, unsigned short width, unsigned short height, const Palette& palette, Canvas* canvas);

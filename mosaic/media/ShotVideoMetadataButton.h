@@ -20,7 +20,7 @@ public:
     };
 
     // The one heading that standard definition of 525 and of 625 lines share.
-    static constexpr ResId kStandardDefinitionHeading = 400;
+    static constexpr ResId kStandardDefinitionHeading = 600;
 
     explicit ShotVideoMetadataButton(const InitArgs& args);
     const char* idstring() const override { return "ShotVideoMetadataButton"; }

@@ -19,7 +19,7 @@ struct TitledFileFormatButtonInitArgs : TitleGlob::InitArgs {
 class TitledFileFormatButton : public TitleGlob {
 public:
     using InitArgs = TitledFileFormatButtonInitArgs;
-    static constexpr ResId kTitle = 412;
+    static constexpr ResId kTitle = 612;
 
     explicit TitledFileFormatButton(const InitArgs& args);
     TitledFileFormatButton(Compression::eUsage usage, const LightweightString<char>& preferenceKey, unsigned short width, unsigned short height,

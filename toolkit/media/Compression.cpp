@@ -14,7 +14,7 @@ using Info = DigitalVideoFormats::DigitalVideoFormatInfo;
 
 namespace {
 
-constexpr ResId kBitRateLegend = 414, kKeyFrameLegend = 415;
+constexpr ResId kBitRateLegend = 614, kKeyFrameLegend = 615;
 constexpr const char* kKeyFrameInterval = "keyframes";
 
 // A picture as the rules see it.

@@ -79,7 +79,7 @@ std::vector<Info> makeTable() {
 }
 
 // The heading of each group, by group number.
-constexpr ResId kGroupHeadings[] = {408, 401, 402, 403, 404, 405, 406, 407};
+constexpr ResId kGroupHeadings[] = {608, 601, 602, 603, 604, 605, 606, 607};
 
 } // namespace
 
