@@ -22,6 +22,10 @@ constexpr unsigned short kWidth = 460;
 class MediaPanel : public StandardPanel {
 public:
     explicit MediaPanel(const InitArgs& args) : StandardPanel(args) {}
+    // The settings panel saves into states_ as it dies, so it goes while they live.
+    ~MediaPanel() override {
+        if (settings_) removeWidget(settings_, true);
+    }
     const char* idstring() const override { return "MediaPanel"; }
 
     void build() {
