@@ -1,8 +1,8 @@
 // The video format menu built from the whole format table, and the compression
 // button following a change of file type and format: the first time a pair is
 // asked (FFmpeg's answers forgotten beforehand) and when its answer is kept.
+#include "controls/StandardPanel.h"
 #include "glob/GlobManager.h"
-#include "glob/StandardPanel.h"
 #include "media/CompressionFormatButton.h"
 #include "media/ShotVideoMetadataButton.h"
 

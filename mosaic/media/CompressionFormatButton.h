@@ -5,17 +5,18 @@
 #include "media/VectorExt.h"
 #include "media/VideoCompressionInfo.h"
 
-// A titled drop-down of the video compressions valid for a file type and a video
-// format, as the installed FFmpeg can write them. When the file type or format
-// changes it keeps the user's compression if that is still valid, and otherwise
-// falls back: for pictures up to 720 pixels wide to "MMES" (at 50 Mb/s), then
-// "M101"; for wider ones to "M701" (at 250 Mb/s), then "M102"; then to the first
-// compression offered. With none valid it is inactive.
-//
-// Only the user's choice of a row sends CompressionFormatChangedMsg to the owner,
-// from this widget; changes made by calls send nothing.
+/// A titled drop-down of the video compressions valid for a file type and a video
+/// format, as the installed FFmpeg can write them. When the file type or format
+/// changes it keeps the user's compression if that is still valid, and otherwise
+/// falls back: for pictures up to 720 pixels wide to "MMES" (at 50 Mb/s), then
+/// "M101"; for wider ones to "M701" (at 250 Mb/s), then "M102"; then to the first
+/// compression offered. With none valid it is inactive.
+///
+/// Only the user's choice of a row sends CompressionFormatChangedMsg to the owner,
+/// from this widget; changes made by calls send nothing.
 class CompressionFormatButton : public TitleMenuButton {
 public:
+    /// What a CompressionFormatButton is made from: a drop-down's record and the use of the compressions it offers.
     struct InitArgs : TitleMenuButton::InitArgs {
         Compression::eUsage usage = Compression::eExport;
         InitArgs() = default;

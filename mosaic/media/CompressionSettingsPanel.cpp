@@ -1,6 +1,6 @@
 #include "CompressionSettingsPanel.h"
 
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "media/Compression.h"
 #include "params/DoubleParam.h"
 #include "params/IntParam.h"

@@ -1,15 +1,16 @@
 #pragma once
 
-#include "glob/StandardPanel.h"
+#include "controls/StandardPanel.h"
 #include "media/Format.h"
 #include "params/UIBuilderParams.h"
 #include "platform/configb.h"
 
-// The settings of one compression as a built parameter panel, one row a setting.
-// Values are restored from the state when the panel is made and saved to it when
-// the panel dies, not as they change; a panel with no state does neither.
+/// The settings of one compression as a built parameter panel, one row a setting.
+/// Values are restored from the state when the panel is made and saved to it when
+/// the panel dies, not as they change; a panel with no state does neither.
 class CompressionSettingsPanel : public StandardPanel {
 public:
+    /// What a CompressionSettingsPanel is made from: a panel's record, its parameters and the state they are kept in.
     struct InitArgs : StandardPanel::InitArgs {
         UIBuilder::ParamList params;
         // Not owned; it must outlive the panel.

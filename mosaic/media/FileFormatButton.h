@@ -3,13 +3,14 @@
 #include "controls/DropDownMenuButton.h"
 #include "media/Compression.h"
 
-// A drop-down of the file types the exporter can write for a use, each shown by
-// its extension ("MOV"). The user's choice is remembered as the extension's text
-// under a preference key of the owner's naming, and read back in any letter case;
-// an empty key remembers nothing. After a choice the button sends
-// FileTypeChangedMsg to its parent, at once.
+/// A drop-down of the file types the exporter can write for a use, each shown by
+/// its extension ("MOV"). The user's choice is remembered as the extension's text
+/// under a preference key of the owner's naming, and read back in any letter case;
+/// an empty key remembers nothing. After a choice the button sends
+/// FileTypeChangedMsg to its parent, at once.
 class FileFormatButton : public DropDownMenuButton {
 public:
+    /// What a FileFormatButton is made from: a drop-down's record, the use of its file types and the key the choice is kept under.
     struct InitArgs : DropDownMenuButton::InitArgs {
         Compression::eUsage usage = Compression::eExport;
         LightweightString<char> preferenceKey;

@@ -5,10 +5,11 @@
 
 #include <vector>
 
-// A titled drop-down of frame rates. The selection is kept as the row's text, and
-// turned back into a rate when asked for, so no list of rates is held beside it.
+/// A titled drop-down of frame rates. The selection is kept as the row's text, and
+/// turned back into a rate when asked for, so no list of rates is held beside it.
 class FrameRateButton : public TitleMenuButton {
 public:
+    /// What a FrameRateButton is made from: a drop-down's record and the rates it offers.
     struct InitArgs : TitleMenuButton::InitArgs {
         std::vector<Zn::FrameRate> rates;
         InitArgs() = default;

@@ -6,13 +6,14 @@
 #include <set>
 #include <vector>
 
-// A drop-down from which the user picks a video format. The menu has a heading for
-// each family of formats, in the families' order, and under it the family's formats
-// from the smallest height up, each with its size ("1920x1080") beside its name.
-// The choice reaches the owner through the button's value and callback, as with any
-// drop-down; rows have no callbacks of their own.
+/// A drop-down from which the user picks a video format. The menu has a heading for
+/// each family of formats, in the families' order, and under it the family's formats
+/// from the smallest height up, each with its size ("1920x1080") beside its name.
+/// The choice reaches the owner through the button's value and callback, as with any
+/// drop-down; rows have no callbacks of their own.
 class ShotVideoMetadataButton : public DropDownMenuButton {
 public:
+    /// What a ShotVideoMetadataButton is made from: a drop-down's record and the formats it offers.
     struct InitArgs : DropDownMenuButton::InitArgs {
         std::set<ShotVideoMetadata> formats;
         InitArgs() = default;

@@ -2,10 +2,10 @@
 
 #include "media/ShotVideoMetadata.h"
 
-// The stored form of an output format, a JSON object kept in the preferences:
-// "uid" the format's UID as text, "bpc" the bits per component, "sm" the scan mode
-// and "ar" the aspect, "4:3" or "16:9", left out for any other. The frame rate is
-// not stored: the format's UID implies it.
+/// The stored form of an output format, a JSON object kept in the preferences:
+/// "uid" the format's UID as text, "bpc" the bits per component, "sm" the scan mode
+/// and "ar" the aspect, "4:3" or "16:9", left out for any other. The frame rate is
+/// not stored: the format's UID implies it.
 class StoredVideoFormat {
 public:
     static LightweightString<char> write(const ShotVideoMetadata& format);

@@ -1,7 +1,7 @@
 #include "TitledFileFormatButton.h"
 
 #include "draw/StateSaver.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 
 TitledFileFormatButtonInitArgs::TitledFileFormatButtonInitArgs(Compression::eUsage u, const LightweightString<char>& key, unsigned short bw,
                                                                unsigned short width, unsigned short height)

@@ -3,8 +3,8 @@
 #include "FileFormatButton.h"
 #include "controls/TitleGlob.h"
 
-// The record of a TitledFileFormatButton: the use, the preference key and the
-// button's width, under the title "File type".
+/// The record of a TitledFileFormatButton: the use, the preference key and the
+/// button's width, under the title "File type".
 struct TitledFileFormatButtonInitArgs : TitleGlob::InitArgs {
     Compression::eUsage usage = Compression::eExport;
     LightweightString<char> preferenceKey;
@@ -14,8 +14,8 @@ struct TitledFileFormatButtonInitArgs : TitleGlob::InitArgs {
                                    unsigned short width, unsigned short height);
 };
 
-// A FileFormatButton at the right of a row, with its title at the left. The
-// button's FileTypeChangedMsg goes on to this row's owner, with the button as sender.
+/// A FileFormatButton at the right of a row, with its title at the left. The
+/// button's FileTypeChangedMsg goes on to this row's owner, with the button as sender.
 class TitledFileFormatButton : public TitleGlob {
 public:
     using InitArgs = TitledFileFormatButtonInitArgs;

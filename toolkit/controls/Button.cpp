@@ -1,7 +1,7 @@
 #include "Button.h"
 
 #include "draw/CanvasRenderer.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "glob/fireCallback.h"
 
 Button::Button(const InitArgs& args) : Clickable(args), callback_(args.callback), label_(args.label) { font_ = UifStd::instance().getDefaultFont(); }

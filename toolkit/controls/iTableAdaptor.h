@@ -11,12 +11,12 @@
 #include <utility>
 #include <vector>
 
-// What a TableWidget shows: its columns, its number of rows and, cell by cell,
-// the text and its look. Cells are (column, row). The table asks only for the rows
-// it shows, so the data may be as long as it likes; a row past the data an adaptor
-// really has should simply answer with empty text.
-//
-// Everything but the columns, the size and the text has an inert default.
+/// What a TableWidget shows: its columns, its number of rows and, cell by cell,
+/// the text and its look. Cells are (column, row). The table asks only for the rows
+/// it shows, so the data may be as long as it likes; a row past the data an adaptor
+/// really has should simply answer with empty text.
+///
+/// Everything but the columns, the size and the text has an inert default.
 class iTableAdaptor {
 public:
     // Text styles of getTextStyle; 0 leaves the column's plain style.
@@ -50,3 +50,17 @@ public:
     virtual int handleMouseClickEvent(const XY<int>&, const Event&) { return 0; }
     virtual void handleHeaderClick(int) {}
 };
+
+namespace Glib {
+
+// The FontDesc style bits for an iTableAdaptor text style; the link style and every
+// other value are plain, since links are underlined, not restyled.
+inline unsigned mapTextStyle(int tableTextStyle) {
+    switch (tableTextStyle) {
+    case iTableAdaptor::kStyleBold: return FontDesc::kBold;
+    case iTableAdaptor::kStyleItalic: return FontDesc::kItalic;
+    default: return FontDesc::kPlain;
+    }
+}
+
+} // namespace Glib

@@ -5,9 +5,8 @@ list(APPEND GLOBKIT_SOURCES
   core/IdStamp.cpp
   core/KeyCodes.cpp
   core/Palette.cpp
-  core/UIString.cpp
+  core/splitIf.cpp
   core/Utf8.cpp
   core/WStringFromAscii.cpp
   core/WStringFromInteger.cpp
-  core/splitIf.cpp
 )

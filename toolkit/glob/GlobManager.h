@@ -1,9 +1,10 @@
 #pragma once
 
+#include "GlobCreationInfo.h"
 #include "MessageQueue.h"
 #include "WidgetPosition.h"
-#include "core/GlobCreationInfo.h"
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
@@ -14,9 +15,9 @@ class Glob;
 class InputDispatcher;
 class Screen;
 
-// Keeps the top-level globs and runs the user-interface thread's work: it
-// realizes panels onto the screen in z-order, delivers posted messages, deletes
-// globs at safe moments, ticks timers, routes input, and makes globs by kind name.
+/// Keeps the top-level globs and runs the user-interface thread's work: it
+/// realizes panels onto the screen in z-order, delivers posted messages, deletes
+/// globs at safe moments, ticks timers, routes input, and makes globs by kind name.
 class GlobManager {
 public:
     using Maker = std::function<Glob*(const GlobCreationInfo&)>;
@@ -92,10 +93,12 @@ public:
     InputDispatcher& input() { return *input_; }
 
     Screen& screen();
-    // Marks the screen as needing composition; compose() does it when marked.
+    // Marks the screen as needing composition. It needs it too when a top-level
+    // canvas was painted outside any redraw (a video frame painted straight into it).
     void screenChanged() { screenDirty_ = true; }
+    bool screenDirty() const;
+    // Composites the screen when it needs it; says whether it did.
     bool compose();
-    bool screenDirty() const { return screenDirty_; }
 
 private:
     GlobManager();
@@ -114,9 +117,11 @@ private:
     XY<int> cascade_;
     int timerPeriodMs_ = 50;
     bool screenDirty_ = true;
+    // The generations of the canvases last composited, in layer order.
+    std::vector<std::uint64_t> composed_;
 };
 
-// Registers a kind of glob by name at load: a static GlobKindRegistration beside the class.
+/// Registers a kind of glob by name at load: a static GlobKindRegistration beside the class.
 struct GlobKindRegistration {
     GlobKindRegistration(const char* type, GlobManager::Maker maker) { GlobManager::registerGlobKind(type, std::move(maker)); }
 };

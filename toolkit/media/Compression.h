@@ -2,7 +2,7 @@
 
 #include "CompressionFormat.h"
 #include "ShotVideoMetadata.h"
-#include "core/UIString.h"
+#include "platform/UIString.h"
 
 #include <vector>
 
@@ -17,7 +17,7 @@ namespace Compression {
 // recording from hardware.
 enum eUsage : int { eExport = 0, eRender = 1, eCapture = 2 };
 
-// One setting of a compression, kept in CompressionFormat::settings under `id`.
+/// One setting of a compression, kept in CompressionFormat::settings under `id`.
 struct Setting {
     LightweightString<char> id;
     UIString legend;
@@ -28,9 +28,9 @@ struct Setting {
     bool whole = false;
 };
 
-// How to open FFmpeg's encoder for a compression: its name, pixel format and
-// options ("key=value" parted by ':', as av_dict_parse_string reads them), and the
-// scan to code in.
+/// How to open FFmpeg's encoder for a compression: its name, pixel format and
+/// options ("key=value" parted by ':', as av_dict_parse_string reads them), and the
+/// scan to code in.
 struct EncoderSettings {
     LightweightString<char> encoder;
     LightweightString<char> pixelFormat;

@@ -3,8 +3,8 @@
 #include "Format.h"
 #include "platform/configb.h"
 
-// A compression, by its four-character code, with its own settings (bit rate and
-// the like, by the ids that Compression::getSettings gives). The default is none.
+/// A compression, by its four-character code, with its own settings (bit rate and
+/// the like, by the ids that Compression::getSettings gives). The default is none.
 struct CompressionFormat {
     static constexpr const char* kBitRate = "bitrate";
 

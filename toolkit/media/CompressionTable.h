@@ -4,7 +4,7 @@
 
 #include <vector>
 
-// One compression that can be offered, and how FFmpeg writes it.
+/// One compression that can be offered, and how FFmpeg writes it.
 struct CompressionCodec {
     // Rules that FFmpeg's own tables do not give.
     enum Rules : unsigned {

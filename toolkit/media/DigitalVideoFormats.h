@@ -9,11 +9,12 @@
 
 namespace Zn {
 
-// The table of broadcast and common digital video formats: SD of 525 and 625
-// lines, 720p, 1080i, 1080PsF and 1080p, 2K, UHD and 4K DCI at their rates. Each
-// format has a UID that never changes, since preferences keep it.
+/// The table of broadcast and common digital video formats: SD of 525 and 625
+/// lines, 720p, 1080i, 1080PsF and 1080p, 2K, UHD and 4K DCI at their rates. Each
+/// format has a UID that never changes, since preferences keep it.
 class DigitalVideoFormats {
 public:
+    /// The families that formats are grouped in.
     struct FormatGroups {
         // The family of a format; menus show the families in this order.
         enum FormatGroup : std::int32_t {
@@ -28,6 +29,7 @@ public:
         };
     };
 
+    /// One format of the table: its UID, family, picture size, rate, scan and name.
     struct DigitalVideoFormatInfo {
         Image::FormatUID uid;
         FormatGroups::FormatGroup group = FormatGroups::kOtherFormats;

@@ -9,11 +9,11 @@
 #include <string>
 #include <utility>
 
-// What the installed FFmpeg says it can write, asked once per question and kept.
-// Its answers count wherever it gives one: its encoders, their pixel formats and
-// frame rates, its DV profiles, its muxers' codec tables and their own set-up.
-// Where a muxer's table cannot say, the file type's list of codecs decides, and
-// the muxer's set-up must still accept the stream. Safe from any thread.
+/// What the installed FFmpeg says it can write, asked once per question and kept.
+/// Its answers count wherever it gives one: its encoders, their pixel formats and
+/// frame rates, its DV profiles, its muxers' codec tables and their own set-up.
+/// Where a muxer's table cannot say, the file type's list of codecs decides, and
+/// the muxer's set-up must still accept the stream. Safe from any thread.
 class FFmpegWriters {
 public:
     static FFmpegWriters& instance();

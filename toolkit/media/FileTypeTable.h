@@ -4,7 +4,7 @@
 
 #include <vector>
 
-// One kind of file that can be offered, by the name of FFmpeg's muxer.
+/// One kind of file that can be offered, by the name of FFmpeg's muxer.
 struct FileType {
     const char* id;
     // Upper case, and no two file types share one.

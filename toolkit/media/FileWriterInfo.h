@@ -6,7 +6,7 @@
 
 namespace Zn {
 
-// The kinds of file the exporter can write.
+/// The kinds of file the exporter can write.
 class FileWriterInfo {
 public:
     // The identifiers (FFmpeg's muxer names) of the file types for `usage` whose

@@ -8,8 +8,8 @@
 namespace Zn {
 namespace Image {
 
-// A four-character code of a pixel layout or a compression, its first character in
-// the lowest byte: "YUY2" is 0x32595559. All bits set is no format.
+/// A four-character code of a pixel layout or a compression, its first character in
+/// the lowest byte: "YUY2" is 0x32595559. All bits set is no format.
 class Format {
 public:
     static constexpr std::uint32_t kNone = 0xFFFFFFFFu;

@@ -8,8 +8,8 @@
 namespace Zn {
 namespace Image {
 
-// The stable number of a format in the table of digital video formats. Its text
-// form, kept in preferences, is the decimal number; 0 is no format.
+/// The stable number of a format in the table of digital video formats. Its text
+/// form, kept in preferences, is the decimal number; 0 is no format.
 class FormatUID {
 public:
     constexpr FormatUID() = default;

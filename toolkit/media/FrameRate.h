@@ -34,7 +34,7 @@ namespace FrameRateGroups {
 enum FrameRateGroup : int { kAllRates = 0, kVideoRates = 1, kHighRates = 2, kLowRates = 3 };
 } // namespace FrameRateGroups
 
-// Frames per second as a fraction, as 30000/1001; 0/1 for no rate.
+/// Frames per second as a fraction, as 30000/1001; 0/1 for no rate.
 struct FrameRateFraction {
     int num = 0;
     int den = 1;

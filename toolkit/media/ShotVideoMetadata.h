@@ -7,7 +7,7 @@
 namespace Zn {
 namespace Image {
 namespace Core {
-// What every picture has: its size and how its pixels are laid out.
+/// What every picture has: its size and how its pixels are laid out.
 struct Data {
     int width = 0;
     int height = 0;
@@ -17,7 +17,7 @@ struct Data {
 };
 } // namespace Core
 namespace Video {
-// What a picture of video adds: its place in the format table, scan and shape.
+/// What a picture of video adds: its place in the format table, scan and shape.
 struct Data {
     FormatUID videoFormatUID;
     ScanMode scanMode = kScanUnknown;
@@ -25,7 +25,7 @@ struct Data {
 };
 } // namespace Video
 namespace VideoSequence {
-// What a run of pictures adds.
+/// What a run of pictures adds.
 struct Data {
     FrameRate frameRate = kFrameRateNone;
 };
@@ -33,9 +33,9 @@ struct Data {
 } // namespace Image
 } // namespace Zn
 
-// One video format as a value: size and pixel layout, the format's UID, scan and
-// aspect, and frame rate. The default value, of width 0, is no format. Formats are
-// ordered and compared by every field, so that a std::set of them holds each once.
+/// One video format as a value: size and pixel layout, the format's UID, scan and
+/// aspect, and frame rate. The default value, of width 0, is no format. Formats are
+/// ordered and compared by every field, so that a std::set of them holds each once.
 class ShotVideoMetadata : public Zn::Image::Core::Data, public Zn::Image::Video::Data, public Zn::Image::VideoSequence::Data {
 public:
     ShotVideoMetadata() = default;

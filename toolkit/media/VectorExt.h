@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-// A std::vector that can say whether it holds a value and where.
+/// A std::vector that can say whether it holds a value and where.
 template <class T>
 class VectorExt : public std::vector<T> {
 public:

@@ -3,7 +3,7 @@
 #include "CompressionFormat.h"
 #include "ShotVideoMetadata.h"
 
-// A video format with the compression it is written in.
+/// A video format with the compression it is written in.
 class VideoCompressionInfo : public ShotVideoMetadata {
 public:
     // Bits of getDisplayString's flags. Without kShowName or kShowCode the name is shown.

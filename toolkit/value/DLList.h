@@ -3,12 +3,13 @@
 #include <atomic>
 #include <cstddef>
 
-// A record of a DLList: derive from it to put an object in a list.
+/// A record of a DLList: derive from it to put an object in a list.
 class DLListRec {
 public:
     DLListRec() = default;
     DLListRec(const DLListRec&) : DLListRec() {} // a copy is in no list
-    DLListRec& operator=(const DLListRec&) { return *this; }
+    // Assigning keeps this record's own place, so assigning a record to itself is harmless.
+    DLListRec& operator=(const DLListRec&) { return *this; } // NOLINT(bugprone-unhandled-self-assignment)
     virtual ~DLListRec() = default;
 
     DLListRec* next() const { return next_; }
@@ -20,9 +21,9 @@ private:
     DLListRec* next_ = nullptr;
 };
 
-// An intrusive doubly-linked list, in order of appending. Whether it deletes its
-// records when they leave it is the owner's choice. The size may be read from any
-// thread without a lock: a notifier with no registrations looks at nothing else.
+/// An intrusive doubly-linked list, in order of appending. Whether it deletes its
+/// records when they leave it is the owner's choice. The size may be read from any
+/// thread without a lock: a notifier with no registrations looks at nothing else.
 class DLList {
 public:
     using ApplyFn = void (*)(DLListRec* record, void* data);

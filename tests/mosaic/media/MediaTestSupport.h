@@ -2,7 +2,7 @@
 
 #include "controls/DropDownMenuButton.h"
 #include "controls/Menu.h"
-#include "glob/StandardPanel.h"
+#include "controls/StandardPanel.h"
 #include "media/ShotVideoMetadata.h"
 #include "testing/TestKit.h"
 

@@ -1,16 +1,16 @@
 #pragma once
 
-#include "Palette.h"
-#include "XY.h"
-#include "iVirtual.h"
+#include "core/Palette.h"
+#include "core/XY.h"
+#include "core/iVirtual.h"
 #include "platform/configb.h"
 
 class Canvas;
 
-// The creation record every widget's InitArgs derives from. Children get their
-// canvas and palette from the parent; a width of 0 means as wide as the parent's
-// user area. For globs made by type name, `type`, `position` and `settings` say
-// which kind, where, and with what.
+/// The creation record every widget's InitArgs derives from. Children get their
+/// canvas and palette from the parent; a width of 0 means as wide as the parent's
+/// user area. For globs made by type name, `type`, `position` and `settings` say
+/// which kind, where, and with what.
 class GlobCreationInfo : public iVirtual {
 public:
     GlobCreationInfo() = default;

@@ -1,16 +1,17 @@
 #pragma once
 
-#include "Border.h"
-#include "Glob.h"
-#include "TabOrderManager.h"
-#include "controls/MenuGlob.h"
+#include "MenuGlob.h"
 #include "draw/FontDesc.h"
+#include "glob/Border.h"
+#include "glob/Glob.h"
+#include "glob/TabOrderManager.h"
 
-// The toolkit's panel: a glob with a border, an optional title bar with window
-// furniture, a user area for its children, a tab order, a context menu, and a
-// dispatch of events to the handle... family. Most widgets derive from it.
+/// The toolkit's panel: a glob with a border, an optional title bar with window
+/// furniture, a user area for its children, a tab order, a context menu, and a
+/// dispatch of events to the handle... family. Most widgets derive from it.
 class StandardPanel : public Glob, public Glib::FontUser, public MenuGlob {
 public:
+    /// What a StandardPanel is made from: a glob's record and a border (none by default).
     struct InitArgs : GlobCreationInfo {
         Border border{Border::kNoBorder, 0, 15};
         InitArgs() = default;
