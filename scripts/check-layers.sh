@@ -13,7 +13,7 @@ layers=(
     "draw"                   # canvases, fonts, text, metrics and the screen, knowing no tree
     "glob"                   # the glob tree: layout, input, focus, messages, timers
     "value"                  # notifiers, value servers and adaptors, on the tree's messages
-    "tasks controls backend" # task logs and progress; the widgets; the window and its input
+    "tasks controls backend media" # task logs and progress; the widgets; the window and its input; video formats and FFmpeg's writers
     "testkit"                # the test kit, which drives all of them
 )
 

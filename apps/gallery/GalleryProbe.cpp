@@ -2,6 +2,7 @@
 
 #include "controls/Button.h"
 #include "controls/Checkbox.h"
+#include "controls/DropDownMenuButton.h"
 #include "controls/Slider.h"
 #include "controls/TableWidget.h"
 #include "controls/TextBoxBase.h"
@@ -91,6 +92,7 @@ void GalleryProbe::printWidgets(std::FILE* out) {
 
 std::optional<std::string> GalleryProbe::valueOf(const Glob* g) {
     if (auto* c = dynamic_cast<const Checkbox*>(g)) return c->getState() ? "on" : "off";
+    if (auto* d = dynamic_cast<const DropDownMenuButton*>(g)) return text(d->getSelectedItemNameW());
     auto* button = dynamic_cast<const Button*>(g);
     if (button && button->isLatching()) return button->isLatched() ? "on" : "off";
     if (auto* t = dynamic_cast<const TextBoxBase*>(g)) return text(t->getString());

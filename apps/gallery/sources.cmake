@@ -8,6 +8,7 @@ list(APPEND GALLERY_SOURCES
   GradeScene.cpp
   ListsScene.cpp
   LoggerScene.cpp
+  MediaScene.cpp
   MenusScene.cpp
   PanelsScene.cpp
   ParamsScene.cpp

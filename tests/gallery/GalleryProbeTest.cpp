@@ -2,6 +2,8 @@
 #include "GalleryTestSupport.h"
 
 #include "controls/Checkbox.h"
+#include "controls/DropDownMenuButton.h"
+#include "controls/Menu.h"
 #include "controls/Slider.h"
 #include "controls/TextBox.h"
 #include "draw/Screen.h"
@@ -125,4 +127,30 @@ TEST_F(Probe, AReportThatCannotBeWrittenFailsAndNoReportIsANoOp) {
     GalleryProbe none;
     EXPECT_FALSE(none.reporting());
     EXPECT_TRUE(none.capture());
+}
+
+TEST_F(Probe, TheMediaSceneReportsItsChoicesAndTheCompressionFollowsTheFileType) {
+    ASSERT_TRUE(build("media"));
+    GalleryProbe probe(report);
+    ASSERT_TRUE(probe.capture());
+    EXPECT_TRUE(reports("value format ShotVideoMetadataButton 1080i 50")) << reportText();
+    EXPECT_TRUE(reports("value fileType FileFormatButton AVI"));
+    EXPECT_TRUE(reports("value compression DropDownMenuButton MPEG-2 I-frame HD"));
+    EXPECT_TRUE(reports("value frameRate DropDownMenuButton 25"));
+
+    // DV has no 1080 lines: choosing it by mouse leaves no compression.
+    auto* fileType = named<DropDownMenuButton>("fileType");
+    ASSERT_TRUE(fileType);
+    TestKit::click(TestKit::centreOf(fileType));
+    Menu* menu = fileType->getMenu();
+    ASSERT_TRUE(menu);
+    const auto& rows = fileType->getItems();
+    const auto dv = std::find_if(rows.begin(), rows.end(), [](const MenuItem& m) { return m.text().getString() == L"DV"; });
+    ASSERT_NE(dv, rows.end());
+    const BoxInt box = menu->rowBox(static_cast<int>(dv - rows.begin()));
+    TestKit::click(TestKit::screenPointOf(menu, {(box.x1 + box.x2) / 2, (box.y1 + box.y2) / 2}));
+    TestKit::pump();
+    EXPECT_FALSE(named("compression")->isActive());
+    ASSERT_TRUE(probe.capture());
+    EXPECT_TRUE(reports("value fileType FileFormatButton DV"));
 }

@@ -9,4 +9,5 @@ list(APPEND GLOBKIT_SOURCES
   core/splitIf.cpp
   core/Utf8.cpp
   core/WStringFromAscii.cpp
+  core/WStringFromInteger.cpp
 )

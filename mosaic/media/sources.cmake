@@ -1,0 +1,9 @@
+list(APPEND MOSAIC_SOURCES
+  media/CompressionFormatButton.cpp
+  media/CompressionSettingsPanel.cpp
+  media/FileFormatButton.cpp
+  media/FrameRateButton.cpp
+  media/ShotVideoMetadataButton.cpp
+  media/StoredVideoFormat.cpp
+  media/TitledFileFormatButton.cpp
+)

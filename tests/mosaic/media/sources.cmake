@@ -1,0 +1,5 @@
+list(APPEND MOSAIC_TEST_SOURCES
+  mosaic/media/FormatButtonsTest.cpp
+  mosaic/media/CompressionButtonTest.cpp
+  mosaic/media/StoredVideoFormatTest.cpp
+)

@@ -1,0 +1,4 @@
+list(APPEND GLOBKIT_TEST_SOURCES
+  toolkit/media/MediaValuesTest.cpp
+  toolkit/media/CompressionTest.cpp
+)
