@@ -8,5 +8,11 @@ list(APPEND GLOBKIT_SOURCES
   core/UIString.cpp
   core/Utf8.cpp
   core/WStringFromAscii.cpp
+  core/WStringFromFloat.cpp
+  core/WStringFromInteger.cpp
+  core/FloatFromWString.cpp
+  core/StringFromFloat.cpp
+  core/asDouble.cpp
+  core/getDegreesString.cpp
   core/splitIf.cpp
 )

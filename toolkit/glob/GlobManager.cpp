@@ -119,7 +119,7 @@ void GlobManager::deleteDoomed() {
 
 void GlobManager::forgetGlob(Glob* g) {
     forgetRoot(g);
-    modal_.erase(std::remove_if(modal_.begin(), modal_.end(), [g](const auto& m) { return m.first == g; }), modal_.end());
+    removeModalGlob(g);
     timerGlobs_.erase(std::remove(timerGlobs_.begin(), timerGlobs_.end(), g), timerGlobs_.end());
     input_->forget(g);
 }
@@ -167,6 +167,26 @@ void GlobManager::addModalGlob(Glob* g, Glob*) {
 
 void GlobManager::removeModalGlob(Glob* g) {
     modal_.erase(std::remove_if(modal_.begin(), modal_.end(), [g](const auto& m) { return m.first == g; }), modal_.end());
+    std::erase_if(contexts_, [g](const ModalContext& c) { return c.modal == g; });
+}
+
+void GlobManager::addModalContextGlob(Glob* g, Glob* context) {
+    if (!is_good_glob_ptr(g) || !is_good_glob_ptr(context)) return;
+    addModalGlob(g, context);
+    std::erase_if(contexts_, [g](const ModalContext& c) { return c.modal == g; });
+    // A glob that is its own context is a modal dialogue: only its own buttons close it.
+    if (context != g) contexts_.push_back({g, g->stamp(), context, context->stamp()});
+}
+
+bool GlobManager::dismissModalContext() {
+    Glob* modal = topModal();
+    auto it = std::find_if(contexts_.begin(), contexts_.end(), [modal](const ModalContext& c) { return modal && c.modal == modal; });
+    if (it == contexts_.end() || !EventHandler::valid(it->modal, it->modalStamp)) return false;
+    const ModalContext c = *it;
+    removeModalGlob(modal);
+    if (EventHandler::valid(c.context, c.contextStamp)) sendMessage(dismissedMsg, c.context, modal);
+    requestDeletion(modal);
+    return true;
 }
 
 Glob* GlobManager::topModal() const {

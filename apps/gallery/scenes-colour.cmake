@@ -1,0 +1,1 @@
+list(APPEND GALLERY_SOURCES ColourScene.cpp)
