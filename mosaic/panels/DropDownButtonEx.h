@@ -53,8 +53,11 @@ public:
             this->setState(Button::kButtonUp, 1);
             return 1;
         }
-        if (e.isMessage() && e.messageText() == DropDownButton<T>::goneMsg && !this->isStaleGoneMsg(e))
+        if (e.isMessage() && e.messageText() == DropDownButton<T>::goneMsg && !this->isStaleGoneMsg(e)) {
+            // Dismissed by the toolkit while it still stands: its own notice would come twice.
+            if (auto* w = dynamic_cast<DropDownWidgetWithDtorNotify<T>*>(event_to_sender_glob(e)); w && this->isDroppedWidget(w)) w->forgetOwner();
             this->setLatching(dropMode_ != kMovableDrop, false);
+        }
         return DropDownButton<T>::react(e);
     }
 

@@ -16,7 +16,7 @@ template <class T>
 class DropDownButtonEx;
 
 // The widget a DropDownButtonEx<T> opens: a T that tells its button when it goes
-// ("menu_poot", posted), and that can be torn off: dragged further than a row's
+// ("menu_poot", posted; not once torn off or when the button has heard it), and that can be torn off: dragged further than a row's
 // height, a detachable widget leaves its button ("detach", at once) and goes on as
 // a free panel that follows the pointer until the button is released.
 template <class T>
@@ -26,13 +26,14 @@ class DropDownWidgetWithDtorNotify : public T {
 public:
     DropDownWidgetWithDtorNotify(const typename T::InitArgs& args, DropDownButtonEx<T>* owner) : T(args), owner_(owner) {}
     ~DropDownWidgetWithDtorNotify() override {
-        // Only the widget the button holds speaks: a torn-off one has let go of it.
-        if (DropDownButtonEx<T>* owner = owner_.get(); owner && owner->isDroppedWidget(this)) sendMessage(GlobManager::dismissedMsg, owner, this);
+        if (DropDownButtonEx<T>* owner = owner_.get()) sendMessage(GlobManager::dismissedMsg, owner, this);
     }
 
     void setDetachable(bool d) { detachable_ = d; }
     bool isDetachable() const { return detachable_; }
     DropDownButtonEx<T>* owner() const { return owner_.get(); }
+    // The button has heard of this widget's end already: the destructor tells it nothing.
+    void forgetOwner() { owner_.reset(nullptr); }
 
     int handleMouseEvent(const Event& e) override {
         if (mouse_down_event(e)) pressedAt_ = e.screenPos();

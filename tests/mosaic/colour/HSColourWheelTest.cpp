@@ -96,13 +96,15 @@ TEST_F(Wheels, WheelsOfOneSizeShareAPictureAndAnotherSizeMakesItsOwn) {
     HSColourWheel* b = addWheel(230);
     ASSERT_TRUE(a->wheelImage());
     EXPECT_EQ(a->wheelImage().get(), b->wheelImage().get());
-    HSColourWheel* c = addWheel(460, 90);
+    HSColourWheel* c = addWheel(440, 90);
     ASSERT_TRUE(c->wheelImage());
     EXPECT_NE(c->wheelImage().get(), a->wheelImage().get());
     EXPECT_EQ(HSColourWheel::lastWheelImage_.get(), c->wheelImage().get());
     EXPECT_EQ(a->wheelImage().get(), b->wheelImage().get()) << "the first two keep theirs";
-    c->resize(140, 140);
+    c->resize(110, 110);
+    c->redraw();
     TestKit::pump();
+    ASSERT_TRUE(c->wheelImage());
     EXPECT_EQ(c->wheelImage()->width(), 2 * static_cast<int>(c->radius()) + 1);
 }
 
