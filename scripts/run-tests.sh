@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Builds Mosaic and runs every test: a plain build with warnings as errors, then
+# Checks the layout of the sources and the summaries of the API reference, then
+# builds Mosaic and runs every test: a plain build with warnings as errors, then
 # the same tests under AddressSanitizer with UndefinedBehaviorSanitizer, then under
 # ThreadSanitizer, with each fuzz target run for a minute first. Set MOSAIC_SKIP_SANITIZERS=1
 # to run the plain build only.
@@ -22,6 +23,10 @@ run_suite() {
 
 echo "== layout of the sources =="
 bash scripts/check-format.sh
+
+echo "== API reference: a summary for every public class =="
+cmake -S . -B build -G Ninja -DMOSAIC_WERROR=ON -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
+cmake --build build --target docs
 
 echo "== plain build =="
 run_suite build -DCMAKE_BUILD_TYPE=RelWithDebInfo

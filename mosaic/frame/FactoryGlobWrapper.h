@@ -2,9 +2,9 @@
 
 #include "glob/StandardPanel.h"
 
-// A panel around a glob made by kind name through GlobManager::createGlob, centred
-// inside it. When the kind cannot be made the wrapper stays an empty panel that
-// still sizes and paints.
+/// A panel around a glob made by kind name through GlobManager::createGlob, centred
+/// inside it. When the kind cannot be made the wrapper stays an empty panel that
+/// still sizes and paints.
 class FactoryGlobWrapper : public StandardPanel {
 public:
     FactoryGlobWrapper(const StandardPanel::InitArgs& args);

@@ -2,9 +2,9 @@
 
 #include "glob/Glob.h"
 
-// A checked weak reference to a widget: it remembers the widget's stamp, so a
-// widget that died, or another object that now lives at its address, is never
-// touched. An owning handle deletes its widget when it goes.
+/// A checked weak reference to a widget: it remembers the widget's stamp, so a
+/// widget that died, or another object that now lives at its address, is never
+/// touched. An owning handle deletes its widget when it goes.
 template <class T>
 class GlobHandle {
 public:

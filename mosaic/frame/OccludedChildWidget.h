@@ -2,7 +2,7 @@
 
 #include "WidgetHost.h"
 
-// A host whose whole area is covered by its children, so it paints nothing of its own.
+/// A host whose whole area is covered by its children, so it paints nothing of its own.
 class OccludedChildWidget : public WidgetHost {
 public:
     using InitArgs = WidgetHost::InitArgs;

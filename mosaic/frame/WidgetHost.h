@@ -2,8 +2,8 @@
 
 #include "glob/StandardPanel.h"
 
-// A panel that hosts a child and adds nothing but its name: the base of hosts
-// such as the slider row and the occluded hosts.
+/// A panel that hosts a child and adds nothing but its name: the base of hosts
+/// such as the slider row and the occluded hosts.
 class WidgetHost : public StandardPanel {
 public:
     using InitArgs = StandardPanel::InitArgs;

@@ -6,10 +6,10 @@
 
 #include <cstdint>
 
-// A counter for the stack of a slow operation of `total` steps, which shows a
-// ProgInd only when the operation proves slow: when a step ends more than a second
-// after the start with less than three quarters done. The watchdog is on life
-// support while it lives; the bar goes with it.
+/// A counter for the stack of a slow operation of `total` steps, which shows a
+/// ProgInd only when the operation proves slow: when a step ends more than a second
+/// after the start with less than three quarters done. The watchdog is on life
+/// support while it lives; the bar goes with it.
 class AutoProgressBar {
 public:
     AutoProgressBar(const Glob* parent, const UIString& title, unsigned long total);

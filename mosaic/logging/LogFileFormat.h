@@ -4,9 +4,9 @@
 
 #include <vector>
 
-// How a log is written to disk: as plain text, one row per line, or as HTML, the
-// whole log as one preformatted block with each kind in its own mark-up. Both are
-// written through TextFile, so a failed save leaves any old file whole.
+/// How a log is written to disk: as plain text, one row per line, or as HTML, the
+/// whole log as one preformatted block with each kind in its own mark-up. Both are
+/// written through TextFile, so a failed save leaves any old file whole.
 class LogFileFormat {
 public:
     // The HTML line of one item. The file's colours differ from the panel's on

@@ -5,11 +5,11 @@
 
 #include <vector>
 
-// The cell editor of a Logger's rows. It never edits: it paints a row as its kind
-// asks (HTML through HTMLRenderer, a section with a rule to the right edge, long
-// rows wrapped) and follows a link row when it is clicked. Mouse events go to the
-// table's adaptor first, which drags links out; a release that ends a drag is no
-// click. The rows are the Logger's; the field only reads them.
+/// The cell editor of a Logger's rows. It never edits: it paints a row as its kind
+/// asks (HTML through HTMLRenderer, a section with a rule to the right edge, long
+/// rows wrapped) and follows a link row when it is clicked. Mouse events go to the
+/// table's adaptor first, which drags links out; a release that ends a drag is no
+/// click. The rows are the Logger's; the field only reads them.
 class LogItemField : public WStringEditor {
 public:
     explicit LogItemField(const std::vector<LoggedItem>* items) : items_(items) {}

@@ -4,10 +4,10 @@
 
 class Glob;
 
-// What following a link row does. A link to a web page, an HTML page or an edit
-// decision list opens in its default application; a link to any other file shows
-// the file in the file manager; an internal link (a JSON description of a panel)
-// makes that panel where the mouse is.
+/// What following a link row does. A link to a web page, an HTML page or an edit
+/// decision list opens in its default application; a link to any other file shows
+/// the file in the file manager; an internal link (a JSON description of a panel)
+/// makes that panel where the mouse is.
 class LogLinks {
 public:
     // Does nothing for a link with no targets.

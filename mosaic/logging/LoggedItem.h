@@ -5,9 +5,9 @@
 #include "draw/FontDesc.h"
 #include "tasks/LoggerBase.h"
 
-// One display row of a Logger: a line of a log item with the colours and the font
-// it shows in, and its measured width and line count. A multi-line item makes one
-// row per line. A blank row has empty text and kind otNormal.
+/// One display row of a Logger: a line of a log item with the colours and the font
+/// it shows in, and its measured width and line count. A multi-line item makes one
+/// row per line. A blank row has empty text and kind otNormal.
 class LoggedItem : public LoggerBase::Item {
 public:
     LoggedItem() = default;

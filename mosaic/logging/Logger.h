@@ -13,15 +13,15 @@
 class Gauge;
 class TableWidget;
 
-// The panel that shows the text log of a task: a scrolling, word-wrapping table of
-// coloured rows, an optional progress gauge under it and an optional row of push
-// buttons. The task log, not the panel, holds the text: write() goes to the log,
-// and the log's notices, carried to the user-interface thread, add the rows. So
-// tasks on any thread may write while the panel shows, and a panel opened on a log
-// that already holds items shows them all first.
-//
-// Rows are made and measured once, when they arrive, and wrapped again only when
-// the panel is resized. A panel holds at most 65,535 rows; later ones are dropped.
+/// The panel that shows the text log of a task: a scrolling, word-wrapping table of
+/// coloured rows, an optional progress gauge under it and an optional row of push
+/// buttons. The task log, not the panel, holds the text: write() goes to the log,
+/// and the log's notices, carried to the user-interface thread, add the rows. So
+/// tasks on any thread may write while the panel shows, and a panel opened on a log
+/// that already holds items shows them all first.
+///
+/// Rows are made and measured once, when they arrive, and wrapped again only when
+/// the panel is resized. A panel holds at most 65,535 rows; later ones are dropped.
 class Logger : public StandardPanel, public LoggerBase, public iTableAdaptor {
 public:
     using LoggedItem = ::LoggedItem;
@@ -37,6 +37,8 @@ public:
         kProgressOnly = 0x100,
     };
 
+    /// What a Logger is made from: the log it shows, its title, its size in rows, the
+    /// flags above, the file its rows are saved to, and its buttons.
     struct InitArgs : StandardPanel::InitArgs {
         InitArgs(unsigned short numRows, unsigned short width, unsigned int flags);
         // The log shown; null makes the panel a TaskLog of its own.

@@ -6,11 +6,11 @@
 
 #include <cstdint>
 
-// A small panel with one gauge that shows the progress of a long task on the
-// user-interface thread, optionally with the time left. Values are on a scale of
-// min .. max; the gauge is redrawn at most once per 11 ms, but a value of exactly
-// 1.0 always shows. With polling on, each update also lets the toolkit deliver
-// its waiting work, so the display moves while the task holds the thread.
+/// A small panel with one gauge that shows the progress of a long task on the
+/// user-interface thread, optionally with the time left. Values are on a scale of
+/// min .. max; the gauge is redrawn at most once per 11 ms, but a value of exactly
+/// 1.0 always shows. With polling on, each update also lets the toolkit deliver
+/// its waiting work, so the display moves while the task holds the thread.
 class ProgInd : public StandardPanel, public ProgressReportClient {
 public:
     static constexpr int kWidth = 400;

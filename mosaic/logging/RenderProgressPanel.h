@@ -8,9 +8,9 @@
 
 #include <cstdint>
 
-// The progress of a render: a live preview of the frames being made, in a video
-// window of the picture's shape, above a gauge with the time left. Text written
-// to it is dropped. The 11 ms limit on gauge redraws is shared by all such panels.
+/// The progress of a render: a live preview of the frames being made, in a video
+/// window of the picture's shape, above a gauge with the time left. Text written
+/// to it is dropped. The 11 ms limit on gauge redraws is shared by all such panels.
 class RenderProgressPanel : public StandardPanel, public LoggerBase {
 public:
     RenderProgressPanel(unsigned short width, Zn::Image::AspectRatio ratio, const Colour& colour);

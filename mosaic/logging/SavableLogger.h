@@ -4,10 +4,10 @@
 #include "controls/FileBrowser.h"
 #include "frame/GlobHandle.h"
 
-// The logger that the command "ShowLog" opens on a task log: a Logger with a save
-// button, which asks for a folder and writes the whole log there as one HTML file
-// ("TaskLog.html", numbered when taken). It cannot be closed by the ordinary
-// close path.
+/// The logger that the command "ShowLog" opens on a task log: a Logger with a save
+/// button, which asks for a folder and writes the whole log there as one HTML file
+/// ("TaskLog.html", numbered when taken). It cannot be closed by the ordinary
+/// close path.
 class SavableLogger : public Logger {
 public:
     // The message the save button sends to the panel.

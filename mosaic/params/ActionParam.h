@@ -6,10 +6,11 @@
 
 namespace GenericParam {
 
-// A button in a panel of parameters. Its value stays 0; the server is there so
-// that it fits the list. The callback is given the panel's parameters.
+/// A button in a panel of parameters. Its value stays 0; the server is there so
+/// that it fits the list. The callback is given the panel's parameters.
 class ActionParam : public Param<unsigned int> {
 public:
+    /// What the callback of an action is given: the panel's parameters and the action's context.
     struct CallbackData {
         LightweightVector<Zn::Ptr<iParam>>* params = nullptr;
         Zn::Ptr<iObject> context;

@@ -4,9 +4,9 @@
 
 #include <map>
 
-// Keeps a row active only while every parameter it depends on holds the text it
-// requires, compared exactly. A condition on an id that no parameter has keeps the
-// row inactive; with no conditions the row is active.
+/// Keeps a row active only while every parameter it depends on holds the text it
+/// requires, compared exactly. A condition on an id that no parameter has keeps the
+/// row inactive; with no conditions the row is active.
 class ActiveConstraint : public UIBuilder::iPostCondition {
 public:
     using Conditions = std::map<LightweightString<char>, LightweightString<wchar_t>>;

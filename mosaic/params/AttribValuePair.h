@@ -5,7 +5,7 @@
 
 namespace Zn {
 
-// A name and a value, as in "format=HD" or a condition "id:value".
+/// A name and a value, as in "format=HD" or a condition "id:value".
 class AttribValuePair {
 public:
     AttribValuePair() = default;

@@ -4,7 +4,7 @@
 
 namespace GenericParam {
 
-// A yes-or-no parameter, shown as a check box.
+/// A yes-or-no parameter, shown as a check box.
 class BoolParam : public Param<bool> {
 public:
     BoolParam(const UIString& legend, const LightweightString<char>& id, const UIString& tooltip, bool value)

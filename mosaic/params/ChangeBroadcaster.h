@@ -4,8 +4,8 @@
 #include "core/iCallbackBase.h"
 #include "iValueChangeHandler.h"
 
-// Tells a parameter set that one of its parameters changed, by the parameter's id
-// alone: a listener reads the value from the parameter itself.
+/// Tells a parameter set that one of its parameters changed, by the parameter's id
+/// alone: a listener reads the value from the parameter itself.
 class ChangeBroadcaster : public GenericParam::iValueChangeHandler {
 public:
     explicit ChangeBroadcaster(const Zn::Ptr<iCallbackBase<int, NotifyMsg>>& callback) : callback_(callback) {}

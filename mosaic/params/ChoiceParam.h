@@ -6,10 +6,11 @@
 
 namespace GenericParam {
 
-// One of a list of labelled values. The parameter holds the value, not the index,
-// of the current entry, and keeps a value that matches no entry.
+/// One of a list of labelled values. The parameter holds the value, not the index,
+/// of the current entry, and keeps a value that matches no entry.
 class ChoiceParam : public Param<unsigned int> {
 public:
+    /// One entry of the list: the label shown and the value it stands for.
     struct Choice {
         UIString label;
         int value = 0;

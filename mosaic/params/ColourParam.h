@@ -4,7 +4,7 @@
 
 namespace GenericParam {
 
-// A colour, picked with the colour tools. The value type word is the caller's.
+/// A colour, picked with the colour tools. The value type word is the caller's.
 class ColourParam : public Param<NormalisedRGB> {
 public:
     ColourParam(const UIString& legend, const LightweightString<char>& id, const UIString& tooltip, const NormalisedRGB& value,

@@ -4,7 +4,7 @@
 
 namespace GenericParam {
 
-// A real number with a range, which its widgets keep.
+/// A real number with a range, which its widgets keep.
 class DoubleParam : public Param<double> {
 public:
     DoubleParam(const UIString& legend, const LightweightString<char>& id, const UIString& tooltip, double value, double min, double max)

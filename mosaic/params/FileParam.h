@@ -6,8 +6,8 @@
 
 namespace GenericParam {
 
-// The path of a file, chosen with the file browser through the given name filters
-// (such as "*.png"). The value type word is the caller's.
+/// The path of a file, chosen with the file browser through the given name filters
+/// (such as "*.png"). The value type word is the caller's.
 class FileParam : public Param<LightweightString<wchar_t>> {
 public:
     FileParam(const UIString& legend, const LightweightString<char>& id, const UIString& tooltip, const LightweightString<wchar_t>& value,

@@ -4,7 +4,7 @@
 
 namespace GenericParam {
 
-// The name of a font. The value type word is the caller's.
+/// The name of a font. The value type word is the caller's.
 class FontParam : public Param<LightweightString<wchar_t>> {
 public:
     FontParam(const UIString& legend, const LightweightString<char>& id, const UIString& tooltip, const LightweightString<wchar_t>& value,

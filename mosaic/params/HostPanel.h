@@ -3,11 +3,13 @@
 #include "UIBuilderParams.h"
 #include "glob/StandardPanel.h"
 
-// A window of its own that shows a panel built from a description or a list of
-// parameters, titled "Output": how a developer tries a description. It keeps the
-// panel's parameter set for as long as it lives.
+/// A window of its own that shows a panel built from a description or a list of
+/// parameters, titled "Output": how a developer tries a description. It keeps the
+/// panel's parameter set for as long as it lives.
 class HostPanel : public StandardPanel {
 public:
+    /// What a HostPanel is made from: a JSON description of the panel to build or,
+    /// when there is none, a list of parameters, and where the window goes.
     struct InitArgs : StandardPanel::InitArgs {
         Zn::Ptr<JSON::Element> description;
         UIBuilder::ParamList params;

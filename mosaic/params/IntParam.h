@@ -4,7 +4,7 @@
 
 namespace GenericParam {
 
-// A whole number. Its range holds only for values set as text.
+/// A whole number. Its range holds only for values set as text.
 class IntParam : public Param<int> {
 public:
     IntParam(int value, const LightweightString<char>& id, const UIString& legend, const UIString& tooltip,

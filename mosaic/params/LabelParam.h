@@ -4,7 +4,7 @@
 
 namespace GenericParam {
 
-// Text that is shown, not edited.
+/// Text that is shown, not edited.
 class LabelParam : public Param<LightweightString<wchar_t>> {
 public:
     LabelParam(const LightweightString<wchar_t>& value, const LightweightString<char>& id, const UIString& legend, const UIString& tooltip,

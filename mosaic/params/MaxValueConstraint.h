@@ -2,7 +2,7 @@
 
 #include "ParamBoundConstraint.h"
 
-// Keeps a number from going above another parameter's present value.
+/// Keeps a number from going above another parameter's present value.
 class MaxValueConstraint : public ParamBoundConstraint {
 public:
     using ParamBoundConstraint::ParamBoundConstraint;

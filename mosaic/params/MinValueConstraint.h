@@ -2,7 +2,7 @@
 
 #include "ParamBoundConstraint.h"
 
-// Keeps a number from going below another parameter's present value.
+/// Keeps a number from going below another parameter's present value.
 class MinValueConstraint : public ParamBoundConstraint {
 public:
     using ParamBoundConstraint::ParamBoundConstraint;

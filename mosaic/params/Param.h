@@ -10,9 +10,9 @@
 
 namespace GenericParam {
 
-// A parameter whose value is a T, held in a server of its own of which the
-// parameter is the manager: every new value passes the constraints (as text)
-// before it is stored, and every stored value is told to the change handlers.
+/// A parameter whose value is a T, held in a server of its own of which the
+/// parameter is the manager: every new value passes the constraints (as text)
+/// before it is stored, and every stored value is told to the change handlers.
 template <class T>
 class Param : public ValManagerBase<T>, public ParamBase {
 public:

@@ -6,8 +6,8 @@
 
 namespace GenericParam {
 
-// What every parameter has whatever its value type: names, presentation, the
-// handlers and constraints, and the dependencies on other parameters.
+/// What every parameter has whatever its value type: names, presentation, the
+/// handlers and constraints, and the dependencies on other parameters.
 class ParamBase : public iParam {
 public:
     ParamBase(const LightweightString<char>& id, const LightweightString<char>& valueType, const UIString& legend, const UIString& tooltip);

@@ -2,10 +2,10 @@
 
 #include "iParam.h"
 
-// Holds a number to the present value of another parameter, from below or above.
-// The other parameter is not moved, and nothing runs when it changes: the bound is
-// met only when this parameter's value changes. Against a parameter whose value is
-// not a number ("int" or "double") every value passes unchanged.
+/// Holds a number to the present value of another parameter, from below or above.
+/// The other parameter is not moved, and nothing runs when it changes: the bound is
+/// met only when this parameter's value changes. Against a parameter whose value is
+/// not a number ("int" or "double") every value passes unchanged.
 class ParamBoundConstraint : public GenericParam::iValueConstraint {
 public:
     explicit ParamBoundConstraint(const Zn::Ptr<GenericParam::iParam>& other) : other_(other) {}

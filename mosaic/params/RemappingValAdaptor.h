@@ -5,9 +5,9 @@
 
 #include <map>
 
-// Lets a drop-down, which knows its entries by position, show and set a value that
-// means something else: entry n stands for map[n]. A value that no entry stands for
-// shows entry 0.
+/// Lets a drop-down, which knows its entries by position, show and set a value that
+/// means something else: entry n stands for map[n]. A value that no entry stands for
+/// shows entry 0.
 template <class Index, class U>
 class RemappingValAdaptor : public ValAdaptorBase<int>, public ValClient<U> {
 public:

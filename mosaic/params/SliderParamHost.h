@@ -2,9 +2,9 @@
 
 #include "frame/WidgetHost.h"
 
-// The host of a slider row: a titled slider and, at its right, a numeric box. A
-// change of the row's width goes wholly to the slider; the box keeps its size and
-// follows the right edge.
+/// The host of a slider row: a titled slider and, at its right, a numeric box. A
+/// change of the row's width goes wholly to the slider; the box keeps its size and
+/// follows the right edge.
 class SliderParamHost : public WidgetHost {
 public:
     using InitArgs = WidgetHost::InitArgs;

@@ -4,8 +4,8 @@
 
 namespace GenericParam {
 
-// Text the user types: with a hint shown while empty, optionally hidden as it is
-// typed, and optionally committing the panel when the commit key is pressed.
+/// Text the user types: with a hint shown while empty, optionally hidden as it is
+/// typed, and optionally committing the panel when the commit key is pressed.
 class TextParam : public Param<LightweightString<wchar_t>> {
 public:
     TextParam(const LightweightString<wchar_t>& value, const LightweightString<char>& id, const UIString& legend, const UIString& tooltip,

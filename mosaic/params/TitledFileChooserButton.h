@@ -5,11 +5,12 @@
 #include "controls/TitleMenuButton.h"
 #include "frame/GlobHandle.h"
 
-// A parameter row for a file: the legend, and a drop-down showing the file's name
-// whose menu offers the file itself, "no file" and a browse entry that opens the
-// file browser in the file's folder. The menu is made afresh each time it opens.
+/// A parameter row for a file: the legend, and a drop-down showing the file's name
+/// whose menu offers the file itself, "no file" and a browse entry that opens the
+/// file browser in the file's folder. The menu is made afresh each time it opens.
 class TitledFileChooserButton : public TitleMenuButton {
 public:
+    /// What a TitledFileChooserButton is made from: a drop-down row's record and the file parameter it shows.
     struct InitArgs : TitleMenuButton::InitArgs {
         Zn::Ptr<GenericParam::FileParam> param;
         InitArgs() = default;

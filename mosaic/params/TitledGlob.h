@@ -6,11 +6,12 @@
 
 #include <algorithm>
 
-// A parameter row for any control T: the legend at the left, the control made from
-// its own record at the right edge, centred vertically and never taller than the row.
+/// A parameter row for any control T: the legend at the left, the control made from
+/// its own record at the right edge, centred vertically and never taller than the row.
 template <class T>
 class TitledGlob : public TitleGlob {
 public:
+    /// What a TitledGlob is made from: a legend's record, the control's own record and its surround.
     struct InitArgs : TitleGlob::InitArgs {
         typename T::InitArgs widgetArgs;
         WidgetSurround surround;

@@ -19,15 +19,15 @@ class StandardPanel;
 class TabOrderable;
 class VerticalScrollingBase;
 
-// Turns parameters into rows of widgets in a panel: one row per parameter, its
-// control bound to the parameter's value, all controls lined up right of a legend
-// column as wide as the widest legend. A panel is described by a list of parameters
-// (build) or by JSON (buildFromJSON). A builder lives only for the call that builds
-// a panel; what stays is the widgets, which the panel owns, and a UIBuilder::Params,
-// the live parameters of the panel, which the caller keeps.
-//
-// Rows of a VerticalScrollingBase are stacked by it; in any other panel each row is
-// placed below the one before it. Bad input builds less, never fails.
+/// Turns parameters into rows of widgets in a panel: one row per parameter, its
+/// control bound to the parameter's value, all controls lined up right of a legend
+/// column as wide as the widest legend. A panel is described by a list of parameters
+/// (build) or by JSON (buildFromJSON). A builder lives only for the call that builds
+/// a panel; what stays is the widgets, which the panel owns, and a UIBuilder::Params,
+/// the live parameters of the panel, which the caller keeps.
+///
+/// Rows of a VerticalScrollingBase are stacked by it; in any other panel each row is
+/// placed below the one before it. Bad input builds less, never fails.
 class UIBuilder {
 public:
     using ParamList = LightweightVector<Zn::Ptr<GenericParam::iParam>>;

@@ -7,15 +7,15 @@
 
 class ChangeBroadcaster;
 
-// The live parameters of a built panel, with their rows by id: the one place where
-// the changes of all its parameters meet. After each change it evaluates every
-// post-condition and then tells its listeners, at once, on the thread that made the
-// change. It runs the panel's actions, and saves the values to a configb and
-// restores them.
-//
-// The parameters do not keep the set alive; their broadcasters point back at it,
-// and are cut off when it dies. The caller keeps the set for as long as the panel
-// can change. The rows belong to the panel; a row that has died is left alone.
+/// The live parameters of a built panel, with their rows by id: the one place where
+/// the changes of all its parameters meet. After each change it evaluates every
+/// post-condition and then tells its listeners, at once, on the thread that made the
+/// change. It runs the panel's actions, and saves the values to a configb and
+/// restores them.
+///
+/// The parameters do not keep the set alive; their broadcasters point back at it,
+/// and are cut off when it dies. The caller keeps the set for as long as the panel
+/// can change. The rows belong to the panel; a row that has died is left alone.
 class UIBuilder::Params : public iObject {
 public:
     using Listener = Zn::Ptr<iCallbackBase<int, NotifyMsg>>;

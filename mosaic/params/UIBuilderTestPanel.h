@@ -5,10 +5,10 @@
 
 class CodeEditor;
 
-// A development aid, opened by the command "makeUIBuilderTestPanel": a code editor
-// for a JSON description and a "Build" button that shows the built panel in a
-// HostPanel beside this one, replacing the one built before. Text that does not
-// parse builds nothing.
+/// A development aid, opened by the command "makeUIBuilderTestPanel": a code editor
+/// for a JSON description and a "Build" button that shows the built panel in a
+/// HostPanel beside this one, replacing the one built before. Text that does not
+/// parse builds nothing.
 class UIBuilderTestPanel : public StandardPanel {
 public:
     explicit UIBuilderTestPanel(const InitArgs& args);

@@ -8,8 +8,8 @@
 
 namespace GenericParam {
 
-// A typed, named value that knows how it is presented. Every parameter can be read
-// and written as text, which is how parameters are constrained, compared and saved.
+/// A typed, named value that knows how it is presented. Every parameter can be read
+/// and written as text, which is how parameters are constrained, compared and saved.
 class iParam : public virtual iObject {
 public:
     virtual LightweightString<wchar_t> getValueAsString() const = 0;

@@ -5,7 +5,7 @@
 
 namespace GenericParam {
 
-// Told of every change of a parameter's value, as text.
+/// Told of every change of a parameter's value, as text.
 class iValueChangeHandler : public iObject {
 public:
     virtual void valueChanged(const LightweightString<char>& id, const LightweightString<wchar_t>& value) = 0;

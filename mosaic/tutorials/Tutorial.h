@@ -9,16 +9,17 @@
 
 #include <vector>
 
-// A tutorial document: phases that say where a pointer goes on the screen, what
-// message is shown and which user action ends the phase, and the layout of the
-// interface it was made on. It reads and writes itself as one JSON file. Reading
-// and writing are deliberately not mirror images (see the parts' read and write).
-// The player that runs a tutorial belongs to the application.
+/// A tutorial document: phases that say where a pointer goes on the screen, what
+/// message is shown and which user action ends the phase, and the layout of the
+/// interface it was made on. It reads and writes itself as one JSON file. Reading
+/// and writing are deliberately not mirror images (see the parts' read and write).
+/// The player that runs a tutorial belongs to the application.
 class Tutorial : public JSON::iPersistable {
 public:
     // A position of −1234 means none.
     static constexpr double kNoCoordinate = -1234.0;
 
+    /// A part of the interface the tutorial was made on: its kind, place and size.
     struct UIComponent {
         LightweightString<char> type;
         XY<double> position;
@@ -67,6 +68,8 @@ public:
         int read(const Zn::Ptr<JSON::Element>& e) override;
     };
 
+    /// One step of a tutorial: where the pointer goes, the message shown, the action
+    /// that ends the step, and the pause that goes with it.
     class Phase : public JSON::iPersistable {
     public:
         Pointer pointer;

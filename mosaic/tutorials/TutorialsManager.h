@@ -6,11 +6,11 @@
 #include <set>
 #include <vector>
 
-// The catalogue of tutorials: the ".ZnTutorial" files of the "Tutorials" folder
-// under the application's data folder, read once at first use, grouped by
-// category. Listeners hear 10 when a tutorial is created, 11 when one is saved and
-// 12 when one is deleted, synchronously, with the tutorial as the payload.
-// Used on the user-interface thread.
+/// The catalogue of tutorials: the ".ZnTutorial" files of the "Tutorials" folder
+/// under the application's data folder, read once at first use, grouped by
+/// category. Listeners hear 10 when a tutorial is created, 11 when one is saved and
+/// 12 when one is deleted, synchronously, with the tutorial as the payload.
+/// Used on the user-interface thread.
 class TutorialsManager : public Notifier {
 public:
     enum { kCreated = 10, kSaved = 11, kDeleted = 12 };

@@ -4,9 +4,9 @@
 
 #include <memory>
 
-// Shows the toolkit's screen in one SDL window and feeds the window's keyboard,
-// mouse, wheel and resize events to the glob manager as toolkit events. It runs the
-// user-interface loop: input, posted messages, timer ticks, then the screen.
+/// Shows the toolkit's screen in one SDL window and feeds the window's keyboard,
+/// mouse, wheel and resize events to the glob manager as toolkit events. It runs the
+/// user-interface loop: input, posted messages, timer ticks, then the screen.
 class SdlBackend {
 public:
     SdlBackend();

@@ -9,11 +9,11 @@
 struct SDL_Window;
 struct _XDisplay;
 
-// Drags files out of an SDL window on X11 to other programs, as the source side of
-// the X drag-and-drop protocol (XDND, version 5). A drag is modal: it holds the
-// pointer and keyboard from its start until the button goes up and the target has
-// taken the files (or stopped answering), and only then returns. Our own window is
-// never a target. It works on SDL's own connection to the display, on the UI thread.
+/// Drags files out of an SDL window on X11 to other programs, as the source side of
+/// the X drag-and-drop protocol (XDND, version 5). A drag is modal: it holds the
+/// pointer and keyboard from its start until the button goes up and the target has
+/// taken the files (or stopped answering), and only then returns. Our own window is
+/// never a target. It works on SDL's own connection to the display, on the UI thread.
 class XdndDragSource {
 public:
     // Null unless the window is an X11 window (not on Wayland, not off-screen).

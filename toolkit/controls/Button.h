@@ -5,10 +5,11 @@
 #include "core/WidgetCallback.h"
 #include "draw/FontDesc.h"
 
-// A push button with a text label. A click fires its WidgetCallback: the callback
-// when there is one, otherwise the callback's message to the owner.
+/// A push button with a text label. A click fires its WidgetCallback: the callback
+/// when there is one, otherwise the callback's message to the owner.
 class Button : public Clickable, public Glib::FontUser {
 public:
+    /// What a Button is made from: its label and what a click does.
     struct InitArgs : GlobCreationInfo {
         WidgetCallback callback;
         UIString label;

@@ -3,9 +3,9 @@
 #include "Button.h"
 #include "value/ValWidget.h"
 
-// A button that shows a value and changes it: a click offers the value that
-// nextValue() gives (by default the one shown) to the adaptor, then fires the
-// button's callback. The label shows the value through labelFor().
+/// A button that shows a value and changes it: a click offers the value that
+/// nextValue() gives (by default the one shown) to the adaptor, then fires the
+/// button's callback. The label shows the value through labelFor().
 template <class T>
 class ButtonWidget : public Button, public ValWidget<T> {
 public:

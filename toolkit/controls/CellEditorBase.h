@@ -4,10 +4,10 @@
 #include "glob/Messaging.h"
 #include "iCellEditor.h"
 
-// The part of a cell editor that edits with one widget of type W: it keeps the
-// widget by stamp, so a widget that its table has deleted is never touched, and a
-// flag that says whether the last store changed the data. Subclasses make the
-// widget (makeWidget) and move the data in and out of it.
+/// The part of a cell editor that edits with one widget of type W: it keeps the
+/// widget by stamp, so a widget that its table has deleted is never touched, and a
+/// flag that says whether the last store changed the data. Subclasses make the
+/// widget (makeWidget) and move the data in and out of it.
 template <class W>
 class CellEditorBase : public iCellEditor {
 public:

@@ -5,11 +5,12 @@
 #include "draw/FontDesc.h"
 #include "value/ValWidget.h"
 
-// A box to tick, with a label at its right. A click toggles it; bound to a value
-// through an adaptor it shows the value and asks the adaptor to change it, and
-// unbound it holds its own state. Either way the callback fires after the change.
+/// A box to tick, with a label at its right. A click toggles it; bound to a value
+/// through an adaptor it shows the value and asks the adaptor to change it, and
+/// unbound it holds its own state. Either way the callback fires after the change.
 class Checkbox : public Clickable, public ValWidget<bool>, public Glib::FontUser {
 public:
+    /// What a Checkbox is made from: its label, its first state and what a click does.
     struct InitArgs : GlobCreationInfo {
         LightweightString<wchar_t> label;
         bool state = false;

@@ -3,10 +3,10 @@
 #include "glob/Glob.h"
 #include "glob/TabOrderManager.h"
 
-// The press-and-release behaviour that every button-like control shares: a left
-// click inside (pressed and released over the control) or Space/Return while it
-// has the keyboard focus makes a click; hovering, pressing and focus change what
-// it shows. An inactive control ignores input.
+/// The press-and-release behaviour that every button-like control shares: a left
+/// click inside (pressed and released over the control) or Space/Return while it
+/// has the keyboard focus makes a click; hovering, pressing and focus change what
+/// it shows. An inactive control ignores input.
 class Clickable : public Glob, public TabOrderable {
 public:
     explicit Clickable(const GlobCreationInfo& info) : Glob(info) {}

@@ -9,18 +9,19 @@
 
 class ScrollBar;
 
-// A plain-text editor for source text such as JSON: a monospace font, lines that
-// never wrap, a gutter of line numbers, and scroll bars both ways. Editing, the
-// selection, the clipboard, undo and the callbacks are those of every text box
-// (kCharTyped fires after each change the user makes); on top of them Return keeps
-// the indent of the line it breaks, Tab inserts spaces to the next multiple of
-// kTabWidth columns, and Home goes to the first character after the indent, then
-// to the start of the line. Escape fires kEscapePressed and leaves the text alone.
-//
-// The text is laid out line by line, and only the lines in view are laid out and
-// painted, so a text of many thousands of lines costs what one screenful does.
+/// A plain-text editor for source text such as JSON: a monospace font, lines that
+/// never wrap, a gutter of line numbers, and scroll bars both ways. Editing, the
+/// selection, the clipboard, undo and the callbacks are those of every text box
+/// (kCharTyped fires after each change the user makes); on top of them Return keeps
+/// the indent of the line it breaks, Tab inserts spaces to the next multiple of
+/// kTabWidth columns, and Home goes to the first character after the indent, then
+/// to the start of the line. Escape fires kEscapePressed and leaves the text alone.
+///
+/// The text is laid out line by line, and only the lines in view are laid out and
+/// painted, so a text of many thousands of lines costs what one screenful does.
 class CodeEditor : public TextBoxBase {
 public:
+    /// What a CodeEditor is made from: its size and its first text.
     struct InitArgs : GlobCreationInfo {
         LightweightString<wchar_t> text;
         InitArgs() = default;

@@ -5,12 +5,13 @@
 #include "core/WidgetCallback.h"
 #include "value/ValWidget.h"
 
-// A swatch of one colour, optionally outlined. A colour with alpha below 1 is
-// shown over a chequer so that its transparency can be seen. A click (or Space or
-// Return while focused) fires the callback; the swatch never changes its own
-// colour on a click. Bound to a value through an adaptor it shows the value.
+/// A swatch of one colour, optionally outlined. A colour with alpha below 1 is
+/// shown over a chequer so that its transparency can be seen. A click (or Space or
+/// Return while focused) fires the callback; the swatch never changes its own
+/// colour on a click. Bound to a value through an adaptor it shows the value.
 class ColRect : public Clickable, public ValWidget<ColourData> {
 public:
+    /// What a ColRect is made from: its colour, whether it is outlined, and what a click does.
     struct InitArgs : GlobCreationInfo {
         ColourData colour;
         WidgetCallback callback;

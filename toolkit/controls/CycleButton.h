@@ -5,12 +5,13 @@
 
 #include <vector>
 
-// A button that steps through a list of states, one label each, on every click,
-// and fires its callback after the step. Shift+click or the Up key steps back.
-// States may show icons instead of labels: a state with an icon that can be read
-// shows the icon, any other its label.
+/// A button that steps through a list of states, one label each, on every click,
+/// and fires its callback after the step. Shift+click or the Up key steps back.
+/// States may show icons instead of labels: a state with an icon that can be read
+/// shows the icon, any other its label.
 class CycleButton : public Button {
 public:
+    /// What a CycleButton is made from: the label of each state, the state shown first, and what a click does.
     struct InitArgs : GlobCreationInfo {
         std::vector<UIString> labels;
         unsigned short state = 0;

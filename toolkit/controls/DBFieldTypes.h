@@ -1,8 +1,8 @@
 #pragma once
 
-// The kinds of field a table cell can hold. A TableWidget paints and edits a cell
-// with the cell editor registered for the kind its adaptor reports; kinds from
-// kApplication up are the application's own.
+/// The kinds of field a table cell can hold. A TableWidget paints and edits a cell
+/// with the cell editor registered for the kind its adaptor reports; kinds from
+/// kApplication up are the application's own.
 struct DBFieldTypes {
     enum eType : int {
         kUnknown = 0,

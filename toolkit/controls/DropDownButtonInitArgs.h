@@ -2,7 +2,7 @@
 
 #include "Button.h"
 
-// The record of a button that opens a widget of its own beside itself when pressed.
+/// The record of a button that opens a widget of its own beside itself when pressed.
 struct DropDownButtonInitArgs : Button::InitArgs {
     // A flat face, shown only while hovered or pressed, for tool bars.
     bool flat = false;

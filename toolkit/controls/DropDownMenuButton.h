@@ -9,18 +9,20 @@
 
 class Menu;
 
-// A button that shows one choice of a list and, when clicked, opens the list as a
-// menu below itself (above it when there is no room). Its value is the index of the
-// selected choice among the rows that are choices (-1 for none); a bound button
-// shows its adaptor's value and asks the adaptor to change it.
-//
-// Opening calls ddBtnClickMsg on the owner at once, so that the owner may rebuild the
-// rows with setStrings before the menu is made. A choice then, in this order, sets or
-// requests the new value, fires the row's own callback and fires the button's
-// callback, which by default posts dropDownMenuButtonMsg to the owner. Up and Down
-// on the focused button choose the neighbouring choice the same way.
+/// A button that shows one choice of a list and, when clicked, opens the list as a
+/// menu below itself (above it when there is no room). Its value is the index of the
+/// selected choice among the rows that are choices (-1 for none); a bound button
+/// shows its adaptor's value and asks the adaptor to change it.
+///
+/// Opening calls ddBtnClickMsg on the owner at once, so that the owner may rebuild the
+/// rows with setStrings before the menu is made. A choice then, in this order, sets or
+/// requests the new value, fires the row's own callback and fires the button's
+/// callback, which by default posts dropDownMenuButtonMsg to the owner. Up and Down
+/// on the focused button choose the neighbouring choice the same way.
 class DropDownMenuButton : public Button, public ValWidget<int> {
 public:
+    /// What a DropDownMenuButton is made from: its rows (a list of strings makes one
+    /// row of each) and the choice selected first.
     struct InitArgs : DropDownButtonInitArgs {
         std::vector<MenuItem> items;
         MenuItemIndex selected;

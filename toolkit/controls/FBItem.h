@@ -4,9 +4,9 @@
 
 #include <cstdint>
 
-// One entry of a folder as the file browser lists it. `name` and `path` are wide
-// text for showing and answering; `nativePath` is the path's bytes as the file
-// system has them, which differ from toUTF8(path) when a name is not valid UTF-8.
+/// One entry of a folder as the file browser lists it. `name` and `path` are wide
+/// text for showing and answering; `nativePath` is the path's bytes as the file
+/// system has them, which differ from toUTF8(path) when a name is not valid UTF-8.
 struct FBItem {
     LightweightString<wchar_t> name;
     LightweightString<wchar_t> path;

@@ -2,10 +2,10 @@
 
 #include "FileBrowserBase.h"
 
-// The file browser as a top-level panel on the screen: a title bar with a close
-// box, a resize grip, and a list of name, size and date of change. make() builds,
-// places and realizes one; it belongs to GlobManager from then on and deletes
-// itself once it has answered, so keep a GlobHandle<FileBrowser> to it, not a pointer.
+/// The file browser as a top-level panel on the screen: a title bar with a close
+/// box, a resize grip, and a list of name, size and date of change. make() builds,
+/// places and realizes one; it belongs to GlobManager from then on and deletes
+/// itself once it has answered, so keep a GlobHandle<FileBrowser> to it, not a pointer.
 class FileBrowser : public FileBrowserBase {
 public:
     explicit FileBrowser(const FileBrowserBase::InitArgs& args);

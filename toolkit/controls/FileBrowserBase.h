@@ -13,26 +13,26 @@ class DropDownMenuButton;
 class PushButton;
 class TextBox;
 
-// The behaviour of a file browser: a panel that lists a real folder in a table
-// (folders first, then the files that pass the chosen filter, by name without
-// regard to case), with a path box above it, an up button, a filter drop-down when
-// there are filters, and Cancel and OK. It lets the user choose one file, several
-// files, or a folder, and it is its own iTableAdaptor: a subclass decides the
-// columns through getColumnDefinitions, whose sort keys "name", "size" and "date"
-// say what a column shows.
-//
-// The answer is a WrappedData<PathList> of full paths. OK (or a double click or
-// Return on a file) hides the browser, posts fileBrowserSelectedMsg with the
-// answer to the owner, calls the callback at once with a NotifyMsg carrying it, and
-// deletes the browser after the owner's message has been delivered, so the owner
-// may still ask getSelectedFiles() of the sender or delete the browser itself.
-// Cancel, Escape and the close box call the callback with an empty list, send no
-// fileBrowserSelectedMsg and delete the browser at the next safe moment. The
-// callback may delete the browser.
-//
-// Only entries whose wide path names them exactly can be chosen: a name that is not
-// valid UTF-8 is shown with U+FFFD in place of its bad bytes and can be browsed
-// into, but it never goes out in an answer.
+/// The behaviour of a file browser: a panel that lists a real folder in a table
+/// (folders first, then the files that pass the chosen filter, by name without
+/// regard to case), with a path box above it, an up button, a filter drop-down when
+/// there are filters, and Cancel and OK. It lets the user choose one file, several
+/// files, or a folder, and it is its own iTableAdaptor: a subclass decides the
+/// columns through getColumnDefinitions, whose sort keys "name", "size" and "date"
+/// say what a column shows.
+///
+/// The answer is a WrappedData<PathList> of full paths. OK (or a double click or
+/// Return on a file) hides the browser, posts fileBrowserSelectedMsg with the
+/// answer to the owner, calls the callback at once with a NotifyMsg carrying it, and
+/// deletes the browser after the owner's message has been delivered, so the owner
+/// may still ask getSelectedFiles() of the sender or delete the browser itself.
+/// Cancel, Escape and the close box call the callback with an empty list, send no
+/// fileBrowserSelectedMsg and delete the browser at the next safe moment. The
+/// callback may delete the browser.
+///
+/// Only entries whose wide path names them exactly can be chosen: a name that is not
+/// valid UTF-8 is shown with U+FFFD in place of its bad bytes and can be browsed
+/// into, but it never goes out in an answer.
 class FileBrowserBase : public StandardPanel, public iTableAdaptor {
 public:
     using PathList = LightweightVector<LightweightString<wchar_t>>;
@@ -45,6 +45,8 @@ public:
     // How selectRow changes the selection.
     enum eSelectHow { kReplace = 0, kToggle = 1, kExtend = 2 };
 
+    /// What a file browser is made from: its title, filters, starting folder, what it
+    /// lets the user choose, and who hears the answer.
     struct InitArgs : GlobCreationInfo {
         UIString title;
         // Extensions ("png") or patterns ("*.png"); empty for all files.

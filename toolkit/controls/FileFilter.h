@@ -4,10 +4,10 @@
 
 #include <vector>
 
-// Which file names a file browser shows: a list of extensions ("png", ".png") or
-// patterns with * and ? ("*.png", "take_??.wav"), matched without regard to case.
-// An empty list, or one holding "*" or "*.*", accepts every name. Entries that are
-// empty or hold a path separator are dropped; "png;jpg" counts as two entries.
+/// Which file names a file browser shows: a list of extensions ("png", ".png") or
+/// patterns with * and ? ("*.png", "take_??.wav"), matched without regard to case.
+/// An empty list, or one holding "*" or "*.*", accepts every name. Entries that are
+/// empty or hold a path separator are dropped; "png;jpg" counts as two entries.
 class FileFilter {
 public:
     FileFilter() = default;

@@ -6,11 +6,11 @@
 
 #include <vector>
 
-// The entries of one folder, read from the file system at once, and the part of
-// them a file browser shows: folders first, then files that pass the filter, each
-// group sorted by name without regard to case (or by size or date). Folders are
-// never filtered out. Reading never throws: a folder that cannot be opened lists
-// nothing and says so.
+/// The entries of one folder, read from the file system at once, and the part of
+/// them a file browser shows: folders first, then files that pass the filter, each
+/// group sorted by name without regard to case (or by size or date). Folders are
+/// never filtered out. Reading never throws: a folder that cannot be opened lists
+/// nothing and says so.
 class FolderListing {
 public:
     enum eSortKey { kByName = 0, kBySize = 1, kByDate = 2 };

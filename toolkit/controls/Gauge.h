@@ -4,11 +4,12 @@
 #include "draw/FontDesc.h"
 #include "glob/Glob.h"
 
-// A bar that fills from the left as a task progresses, with a message (such as
-// the time left) over it. Changes show when display() is called, so a caller
-// can set the measure and the message and paint once.
+/// A bar that fills from the left as a task progresses, with a message (such as
+/// the time left) over it. Changes show when display() is called, so a caller
+/// can set the measure and the message and paint once.
 class Gauge : public Glob, public Glib::FontUser {
 public:
+    /// What a Gauge is made from: its size alone.
     struct InitArgs : GlobCreationInfo {
         InitArgs() = default;
         InitArgs(unsigned short width, unsigned short height) : GlobCreationInfo(width, height) {}

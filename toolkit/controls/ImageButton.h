@@ -3,10 +3,11 @@
 #include "Button.h"
 #include "image/iHostImage.h"
 
-// A button that shows a picture (an icon by path), and its label, if any, at
-// the picture's right. A picture that cannot be read leaves a plain button.
+/// A button that shows a picture (an icon by path), and its label, if any, at
+/// the picture's right. A picture that cannot be read leaves a plain button.
 class ImageButton : public Button {
 public:
+    /// What an ImageButton is made from: a Button's record and the path of its picture.
     struct InitArgs : Button::InitArgs {
         LightweightString<wchar_t> image;
         InitArgs() = default;

@@ -3,9 +3,10 @@
 #include "glob/Glob.h"
 #include "image/iImage.h"
 
-// Shows a picture fitted inside itself, proportions kept, on its window colour.
+/// Shows a picture fitted inside itself, proportions kept, on its window colour.
 class ImageView : public Glob {
 public:
+    /// What an ImageView is made from: its size and the picture it shows.
     struct InitArgs : GlobCreationInfo {
         Zn::Ptr<iImage> image;
         InitArgs() = default;

@@ -5,21 +5,22 @@
 #include <memory>
 #include <vector>
 
-// A multi-line text box in which runs of text that look like web addresses
-// (http:// or https:// and what follows up to a space) are drawn as links and
-// open with the desktop's default application when clicked. In a box that is
-// not editable a plain click opens a link; in an editable one, Control and a
-// click, so that a plain click can still place the caret.
-//
-// Not editable, a text of HTMLRenderer's mark-up shows as what it marks up:
-// styles, colours, breaks and paragraphs, each line in a row of the default
-// font's line height, which is what HTMLRenderer::calcNumDisplayLines and
-// calcHeightForLines measure. An <a> to a web address is a link too; other
-// hrefs are not followed. Editable, the mark-up is the text being edited.
+/// A multi-line text box in which runs of text that look like web addresses
+/// (http:// or https:// and what follows up to a space) are drawn as links and
+/// open with the desktop's default application when clicked. In a box that is
+/// not editable a plain click opens a link; in an editable one, Control and a
+/// click, so that a plain click can still place the caret.
+///
+/// Not editable, a text of HTMLRenderer's mark-up shows as what it marks up:
+/// styles, colours, breaks and paragraphs, each line in a row of the default
+/// font's line height, which is what HTMLRenderer::calcNumDisplayLines and
+/// calcHeightForLines measure. An <a> to a web address is a link too; other
+/// hrefs are not followed. Editable, the mark-up is the text being edited.
 class LinkAwareMultiLineTextBox : public MultiLineTextBox {
 public:
     using InitArgs = MultiLineTextBox::InitArgs;
 
+    /// A web address found in the text, and where it lies.
     struct Link {
         std::size_t start = 0, end = 0; // characters [start, end) of the text shown
         LightweightString<wchar_t> url;

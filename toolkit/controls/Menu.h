@@ -5,20 +5,22 @@
 
 #include <vector>
 
-// A list of rows that pops up as a top-level glob of its own, above everything
-// else, for the user to choose one: the mouse highlights the row under it and a
-// release chooses it; Up and Down move over the rows that can be chosen, Return
-// chooses, Escape closes, a letter goes to the next row that begins with it. Rows
-// that do not fit the screen scroll with the wheel or the keys.
-//
-// While up it is modal and has the keyboard focus; a mouse press anywhere outside
-// closes it and goes no further. A choice closes it and then fires the row's
-// WidgetCallback: the callback, or its message posted to the owner. Once popped up
-// the menu belongs to the GlobManager and deletes itself at the next safe moment
-// after it closes; its destructor posts goneMsg to the owner and gives the
-// keyboard focus back to where it was.
+/// A list of rows that pops up as a top-level glob of its own, above everything
+/// else, for the user to choose one: the mouse highlights the row under it and a
+/// release chooses it; Up and Down move over the rows that can be chosen, Return
+/// chooses, Escape closes, a letter goes to the next row that begins with it. Rows
+/// that do not fit the screen scroll with the wheel or the keys.
+///
+/// While up it is modal and has the keyboard focus; a mouse press anywhere outside
+/// closes it and goes no further. A choice closes it and then fires the row's
+/// WidgetCallback: the callback, or its message posted to the owner. Once popped up
+/// the menu belongs to the GlobManager and deletes itself at the next safe moment
+/// after it closes; its destructor posts goneMsg to the owner and gives the
+/// keyboard focus back to where it was.
 class Menu : public StandardPanel {
 public:
+    /// What a Menu is made from: its rows, an optional title, the rows highlighted and
+    /// marked at first, and limits on its size.
     struct InitArgs : GlobCreationInfo {
         std::vector<MenuItem> items;
         UIString title;

@@ -9,10 +9,10 @@ class Event;
 class Glob;
 class Menu;
 
-// The menu side of a panel: the rows that it offers on a right click (its context
-// menu) and the hooks through which it brings them up to date first. Every
-// StandardPanel is one. The menu's owner is the panel, so rows without a callback
-// send their message to it; the panel is told "menu_poot" when the menu has gone.
+/// The menu side of a panel: the rows that it offers on a right click (its context
+/// menu) and the hooks through which it brings them up to date first. Every
+/// StandardPanel is one. The menu's owner is the panel, so rows without a callback
+/// send their message to it; the panel is told "menu_poot" when the menu has gone.
 class MenuGlob {
 public:
     MenuGlob() = default;

@@ -12,11 +12,11 @@
 // alike.
 enum MenuItemType : int { kMenuItemPlain = 0, kMenuItemSelectable = 1, kMenuItemHeading = 2, kMenuItemCommand = 5 };
 
-// One row of a menu or a drop-down: its text, a second text shown right-aligned
-// beside it (a shortcut, a size), what choosing it does, and how it looks. A row
-// with no text at all is a gap between groups of rows. Text after "||" in the main
-// text goes to the column of the second text, so that a list of plain strings can
-// carry both.
+/// One row of a menu or a drop-down: its text, a second text shown right-aligned
+/// beside it (a shortcut, a size), what choosing it does, and how it looks. A row
+/// with no text at all is a gap between groups of rows. Text after "||" in the main
+/// text goes to the column of the second text, so that a list of plain strings can
+/// carry both.
 class MenuItem {
 public:
     MenuItem() = default;

@@ -6,9 +6,9 @@
 
 class MenuItem;
 
-// Picks one choice of a list of menu rows: by its place among the rows that are
-// choices (headings and gaps are not counted), or, when the index is kByName, by
-// its text.
+/// Picks one choice of a list of menu rows: by its place among the rows that are
+/// choices (headings and gaps are not counted), or, when the index is kByName, by
+/// its text.
 struct MenuItemIndex {
     static constexpr unsigned short kByName = 0xFFFF;
 

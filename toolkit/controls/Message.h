@@ -8,16 +8,17 @@
 
 class PushButton;
 
-// A small top-level panel that tells the user something: a title bar, a text
-// wrapped to the panel's width, and an OK button under it. OK or Return fires
-// the record's callback (or, with no callback, posts its message to the client)
-// and closes the panel; Escape closes it without firing. Closing is a deletion
-// requested from GlobManager, so the panel goes at the next safe moment.
-//
-// makeMessage builds one, centres it on the screen, realizes it and gives its
-// button the keyboard focus. A modal message takes all input until it closes.
+/// A small top-level panel that tells the user something: a title bar, a text
+/// wrapped to the panel's width, and an OK button under it. OK or Return fires
+/// the record's callback (or, with no callback, posts its message to the client)
+/// and closes the panel; Escape closes it without firing. Closing is a deletion
+/// requested from GlobManager, so the panel goes at the next safe moment.
+///
+/// makeMessage builds one, centres it on the screen, realizes it and gives its
+/// button the keyboard focus. A modal message takes all input until it closes.
 class Message : public StandardPanel {
 public:
+    /// What a Message is made from: its title and text, what OK does, and whether it is modal.
     struct InitArgs : StandardPanel::InitArgs {
         UIString title;
         UIString text;

@@ -2,14 +2,15 @@
 
 #include "TextBoxBase.h"
 
-// An editable text of several lines, wrapped at the box's width between words.
-// Return starts a new line (Control+Return commits, as Return does in a one-line
-// box); Up and Down move the caret by lines and keep to the column it came from;
-// the text scrolls up and down to keep the caret in view, and with the wheel.
-//
-// Not editable, it is a label of wrapped text.
+/// An editable text of several lines, wrapped at the box's width between words.
+/// Return starts a new line (Control+Return commits, as Return does in a one-line
+/// box); Up and Down move the caret by lines and keep to the column it came from;
+/// the text scrolls up and down to keep the caret in view, and with the wheel.
+///
+/// Not editable, it is a label of wrapped text.
 class MultiLineTextBox : public TextBoxBase {
 public:
+    /// What a MultiLineTextBox is made from: its size and its first text.
     struct InitArgs : GlobCreationInfo {
         UIString text;
         InitArgs() = default;

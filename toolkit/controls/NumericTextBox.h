@@ -4,11 +4,11 @@
 
 #include <optional>
 
-// A text box for a number. Only the characters of a number can be typed. A
-// committed text that is no number goes back to the last good value, and a number
-// outside the range is brought to the nearer end, before the value goes to the
-// adaptor; the box then shows the corrected number. Up and Down step the value
-// (Page Up and Page Down ten steps) and commit it at once.
+/// A text box for a number. Only the characters of a number can be typed. A
+/// committed text that is no number goes back to the last good value, and a number
+/// outside the range is brought to the nearer end, before the value goes to the
+/// adaptor; the box then shows the corrected number. Up and Down step the value
+/// (Page Up and Page Down ten steps) and commit it at once.
 class NumericTextBox : public TextBox {
 public:
     using InitArgs = TextBox::InitArgs;

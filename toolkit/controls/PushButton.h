@@ -2,10 +2,11 @@
 
 #include "Button.h"
 
-// The button of a panel's actions (OK, Save, Next): a Button that shows the
-// panel's main action in the do-it colour when made the default.
+/// The button of a panel's actions (OK, Save, Next): a Button that shows the
+/// panel's main action in the do-it colour when made the default.
 class PushButton : public Button {
 public:
+    /// What a PushButton is made from: a Button's record.
     struct InitArgs : Button::InitArgs {
         using Button::InitArgs::InitArgs;
     };

@@ -2,22 +2,23 @@
 
 #include "glob/Glob.h"
 
-// A vertical or horizontal scroll bar: an arrow button at each end, a track, and a
-// thumb whose length shows how much of the content is in view (thumbSize, 0 to 1)
-// and whose place shows where the view is (thumbPos, 0 at the top or left, 1 at the
-// bottom or right).
-//
-// The bar reports to its owner (its logical parent) with posted messages, so they
-// arrive on the next turn of the event loop. Dragging the thumb or clicking the
-// track moves the thumb itself and sends thumbMovedMsg; the owner reads thumbPos().
-// The arrows and the wheel only send the arrow messages: the owner knows how long a
-// step is, scrolls, and puts the thumb where it belongs with setThumbPos. Holding an
-// arrow or the track down repeats on timer ticks. A bar whose thumb fills the track
-// has nothing to scroll and takes no input.
+/// A vertical or horizontal scroll bar: an arrow button at each end, a track, and a
+/// thumb whose length shows how much of the content is in view (thumbSize, 0 to 1)
+/// and whose place shows where the view is (thumbPos, 0 at the top or left, 1 at the
+/// bottom or right).
+///
+/// The bar reports to its owner (its logical parent) with posted messages, so they
+/// arrive on the next turn of the event loop. Dragging the thumb or clicking the
+/// track moves the thumb itself and sends thumbMovedMsg; the owner reads thumbPos().
+/// The arrows and the wheel only send the arrow messages: the owner knows how long a
+/// step is, scrolls, and puts the thumb where it belongs with setThumbPos. Holding an
+/// arrow or the track down repeats on timer ticks. A bar whose thumb fills the track
+/// has nothing to scroll and takes no input.
 class ScrollBar : public Glob {
 public:
     enum eOrientation { kVertical = 0, kHorizontal = 1 };
 
+    /// What a ScrollBar is made from: its orientation, and the thumb's size and place.
     struct InitArgs : GlobCreationInfo {
         eOrientation orientation = kVertical;
         double thumbSize = 1.0;

@@ -8,19 +8,21 @@
 class CanvasRenderer;
 class ScrollBar;
 
-// A scrolling list of text rows, all of one height, with a vertical ScrollBar at
-// its right. Rows are painted, not made as widgets, so a list of any length costs
-// only the rows in view.
-//
-// The mouse selects a row (Ctrl toggles and Shift extends in a multiple-selection
-// list), a double click or Return activates it; the arrow keys, Home, End, Page Up
-// and Page Down move the selection, and a typed letter jumps to the next row that
-// starts with it. A change that the user makes fires the selection callback (or
-// sends selectionChangedMsg to the owner); activation fires the activation callback
-// (or sends itemActivatedMsg). Changes made in code notify only when asked to.
-// Subclasses paint their own rows through drawItem.
+/// A scrolling list of text rows, all of one height, with a vertical ScrollBar at
+/// its right. Rows are painted, not made as widgets, so a list of any length costs
+/// only the rows in view.
+///
+/// The mouse selects a row (Ctrl toggles and Shift extends in a multiple-selection
+/// list), a double click or Return activates it; the arrow keys, Home, End, Page Up
+/// and Page Down move the selection, and a typed letter jumps to the next row that
+/// starts with it. A change that the user makes fires the selection callback (or
+/// sends selectionChangedMsg to the owner); activation fires the activation callback
+/// (or sends itemActivatedMsg). Changes made in code notify only when asked to.
+/// Subclasses paint their own rows through drawItem.
 class ScrollList : public StandardPanel, public TabOrderable {
 public:
+    /// What a ScrollList is made from: its rows, their height, whether several may be
+    /// selected, and what selecting and activating do.
     struct InitArgs : StandardPanel::InitArgs {
         std::vector<LightweightString<wchar_t>> items;
         // 0: UifStd's row height.

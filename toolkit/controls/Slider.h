@@ -6,14 +6,15 @@
 #include "glob/TabOrderManager.h"
 #include "value/ValWidget.h"
 
-// A horizontal slider over a range of numbers: drag the thumb or click the track,
-// turn the wheel, or use the arrow keys (Page keys step ten times, Home and End go
-// to the ends). A point of interest, such as the default value, is marked on the
-// track, and a drag that passes close to it snaps there. Bound to a value it asks
-// the adaptor for each change (intermediate ones while dragging, a final one on
-// release); unbound it holds its own value. The callback fires on final changes.
+/// A horizontal slider over a range of numbers: drag the thumb or click the track,
+/// turn the wheel, or use the arrow keys (Page keys step ten times, Home and End go
+/// to the ends). A point of interest, such as the default value, is marked on the
+/// track, and a drag that passes close to it snaps there. Bound to a value it asks
+/// the adaptor for each change (intermediate ones while dragging, a final one on
+/// release); unbound it holds its own value. The callback fires on final changes.
 class Slider : public Glob, public ValWidget<double>, public TabOrderable {
 public:
+    /// What a Slider is made from: its width and the colour of its track.
     struct InitArgs : GlobCreationInfo {
         Colour colour;
         InitArgs() = default;

@@ -2,21 +2,21 @@
 
 #include "glob/StandardPanel.h"
 
-// The draggable bar between two panes that lie side by side (a vertical bar) or
-// one above the other (a horizontal bar). The bar and both panes are children of
-// the same parent.
-//
-// While the bar is dragged it calls kMoveMsg on its parent at once, for every
-// step, and kMovedMsg when the button is released; a parent that lays out its
-// panes itself listens for these and reads the mouse. A bar given its panes
-// (InitArgs or setPanes) lays them out itself as it moves: the first pane (the
-// left, or the lower) ends where the bar begins, the second (the right, or the
-// upper) begins where the bar ends, and the outer edges of the two stay where they
-// were. Neither pane is made smaller than its minimum size (the larger of the one
-// set here and the pane's own getMinSize()); a drag past the ends stops there.
-// When both minimums cannot be met the first pane's wins.
-//
-// Panes that the bar lays out are placed at absolute positions in their parent.
+/// The draggable bar between two panes that lie side by side (a vertical bar) or
+/// one above the other (a horizontal bar). The bar and both panes are children of
+/// the same parent.
+///
+/// While the bar is dragged it calls kMoveMsg on its parent at once, for every
+/// step, and kMovedMsg when the button is released; a parent that lays out its
+/// panes itself listens for these and reads the mouse. A bar given its panes
+/// (InitArgs or setPanes) lays them out itself as it moves: the first pane (the
+/// left, or the lower) ends where the bar begins, the second (the right, or the
+/// upper) begins where the bar ends, and the outer edges of the two stay where they
+/// were. Neither pane is made smaller than its minimum size (the larger of the one
+/// set here and the pane's own getMinSize()); a drag past the ends stops there.
+/// When both minimums cannot be met the first pane's wins.
+///
+/// Panes that the bar lays out are placed at absolute positions in their parent.
 class Splitter : public StandardPanel {
 public:
     // 0: panes one above the other, the bar lies across; 1: panes side by side, the bar stands up.
@@ -25,6 +25,8 @@ public:
     static constexpr const char* kMoveMsg = "SplitterMove";
     static constexpr const char* kMovedMsg = "SplitterMoved";
 
+    /// What a Splitter is made from: its orientation and, when it lays them out, its
+    /// two panes and their minimum sizes.
     struct InitArgs : StandardPanel::InitArgs {
         Orientation orientation = kSideBySide;
         Glob* first = nullptr;

@@ -4,17 +4,19 @@
 
 class PushButton;
 
-// A passing message: a TipWindowBase whose text goes after a time. When the time
-// is up a top-level status window closes (by a deletion requested from
-// GlobManager), and one that is the child of a panel (a status line) empties its
-// text and stays. The time is measured with msecsNow() on the toolkit's timer
-// ticks. With the flag kOkButton it has an OK button under the text, which calls
-// handleOkPressed: by default it goes as if its time were up.
+/// A passing message: a TipWindowBase whose text goes after a time. When the time
+/// is up a top-level status window closes (by a deletion requested from
+/// GlobManager), and one that is the child of a panel (a status line) empties its
+/// text and stays. The time is measured with msecsNow() on the toolkit's timer
+/// ticks. With the flag kOkButton it has an OK button under the text, which calls
+/// handleOkPressed: by default it goes as if its time were up.
 class StatusMessage : public TipWindowBase {
 public:
     enum Flags : unsigned { kOkButton = 8 };
     static constexpr const char* kOkMsg = "StatusOk";
 
+    /// What a StatusMessage is made from: a tip window's record, how long the text
+    /// stays, and flags such as kOkButton.
     struct InitArgs : TipWindowBase::InitArgs {
         // 0: the text stays until replaced or closed.
         int timeoutMs = 0;

@@ -6,14 +6,14 @@
 
 #include <vector>
 
-// Pages behind a row of tabs along the top; one page shows at a time.
-//
-// A tab is added with addTab and its page with addPageForTab; the dialogue owns
-// the pages, sizes each to the page area (pageBox()) and shows only the page of
-// the selected tab. A click on a tab, or Ctrl+Tab and Ctrl+Shift+Tab anywhere in
-// the dialogue (with kKeyboardTabs), changes the selection; a change made by the user posts
-// kTabChangedMsg to the owner (sendMessage, so it arrives after the page shows).
-// Tab indices out of range are ignored, never an error.
+/// Pages behind a row of tabs along the top; one page shows at a time.
+///
+/// A tab is added with addTab and its page with addPageForTab; the dialogue owns
+/// the pages, sizes each to the page area (pageBox()) and shows only the page of
+/// the selected tab. A click on a tab, or Ctrl+Tab and Ctrl+Shift+Tab anywhere in
+/// the dialogue (with kKeyboardTabs), changes the selection; a change made by the user posts
+/// kTabChangedMsg to the owner (sendMessage, so it arrives after the page shows).
+/// Tab indices out of range are ignored, never an error.
 class TabbedDialogue : public StandardPanel {
 public:
     static constexpr const char* kTabChangedMsg = "TabChanged";
@@ -25,6 +25,7 @@ public:
     // The look of a tab: a text.
     enum eTabWidget { kTextTab = 0 };
 
+    /// What a TabbedDialogue is made from: its size and its flags.
     struct InitArgs : StandardPanel::InitArgs {
         unsigned flags = kStandardTabs;
         InitArgs() = default;

@@ -4,9 +4,9 @@
 #include "core/UIString.h"
 #include "draw/FontDesc.h"
 
-// One column of a TableWidget as its adaptor describes it: a title for the header,
-// a width (0 shares out what the fixed columns leave), whether the user may drag
-// its edge, an optional background colour and a sort key for the adaptor's use.
+/// One column of a TableWidget as its adaptor describes it: a title for the header,
+/// a width (0 shares out what the fixed columns leave), whether the user may drag
+/// its edge, an optional background colour and a sort key for the adaptor's use.
 class TableColumnDescription {
 public:
     TableColumnDescription() = default;

@@ -12,24 +12,25 @@
 class CanvasRenderer;
 class ScrollBar;
 
-// A table of rows and columns from an iTableAdaptor, with a header of column
-// titles, a vertical ScrollBar, rows of varying height, a current cell, and
-// editing in place. Only the rows in view are asked of the adaptor and painted, so
-// a table of a hundred thousand rows scrolls as fast as one of a hundred.
-//
-// Each cell is painted and edited by the cell editor registered for its field
-// kind, or by a WStringEditor. The mouse and the arrow, page, Home and End keys
-// move the current cell; a double click, Return or F2 edits an editable cell in
-// place (Return or leaving keeps the text, Escape drops it), or, on a cell that
-// cannot be edited, activates it. The header's column edges can be dragged.
-//
-// The owner hears, by posted message: currentCellChangedMsg when the user moves
-// the current cell, cellActivatedMsg, and cellEditedMsg after an edit reached the
-// adaptor. The adaptor is not owned and must outlive the table.
+/// A table of rows and columns from an iTableAdaptor, with a header of column
+/// titles, a vertical ScrollBar, rows of varying height, a current cell, and
+/// editing in place. Only the rows in view are asked of the adaptor and painted, so
+/// a table of a hundred thousand rows scrolls as fast as one of a hundred.
+///
+/// Each cell is painted and edited by the cell editor registered for its field
+/// kind, or by a WStringEditor. The mouse and the arrow, page, Home and End keys
+/// move the current cell; a double click, Return or F2 edits an editable cell in
+/// place (Return or leaving keeps the text, Escape drops it), or, on a cell that
+/// cannot be edited, activates it. The header's column edges can be dragged.
+///
+/// The owner hears, by posted message: currentCellChangedMsg when the user moves
+/// the current cell, cellActivatedMsg, and cellEditedMsg after an edit reached the
+/// adaptor. The adaptor is not owned and must outlive the table.
 class TableWidget : public StandardPanel, public TabOrderable {
 public:
     using iCellEditor = ::iCellEditor;
 
+    /// What a TableWidget is made from: its adaptor (not owned), its row height and its header's height.
     struct InitArgs : GlobCreationInfo {
         iTableAdaptor* adaptor = nullptr;
         // 0: UifStd's row height.

@@ -3,15 +3,16 @@
 #include "TextBoxBase.h"
 #include "value/ValWidget.h"
 
-// A one-line editable text box that scrolls sideways to keep the caret in view.
-// Line breaks that come in by pasting become spaces.
-//
-// It is a value widget of text: Return, or leaving the box after a change, asks
-// the adaptor to take the text (requestSetNewDataValue); a value coming from the
-// adaptor (setNewWidgetValue) only changes what the box shows. Binding a box fills
-// it from its adaptor at once.
+/// A one-line editable text box that scrolls sideways to keep the caret in view.
+/// Line breaks that come in by pasting become spaces.
+///
+/// It is a value widget of text: Return, or leaving the box after a change, asks
+/// the adaptor to take the text (requestSetNewDataValue); a value coming from the
+/// adaptor (setNewWidgetValue) only changes what the box shows. Binding a box fills
+/// it from its adaptor at once.
 class TextBox : public TextBoxBase, public ValWidget<LightweightString<wchar_t>> {
 public:
+    /// What a TextBox is made from: its size and its first text.
     struct InitArgs : GlobCreationInfo {
         UIString text;
         InitArgs() = default;

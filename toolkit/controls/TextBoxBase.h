@@ -10,21 +10,21 @@
 #include <memory>
 #include <optional>
 
-// What every editable text control shares: the text with its caret and selection,
-// editing by keyboard and mouse, the clipboard, undo of the last edit, limits on
-// what may be typed, a placeholder, obfuscated display, and the callbacks that
-// tell the owner about typing, commits and cancels. How the text is placed (one
-// scrolling line, or wrapped lines) is the subclass's part.
-//
-// Typed characters arrive as text events. The key presses that come with them are
-// swallowed, so a character never goes in twice; a text event of one character
-// goes through handleKeyboardEvent like any key, so a subclass can act on it, and
-// a longer one (an input method's commit) goes in as one edit.
-//
-// Callbacks are not run inside the box's own handling: a callback given as a
-// WidgetCallback with a function runs at once, after the box has finished its
-// change; a named message is posted and, when it arrives, is offered to the
-// target and then to the target's parents until one takes it.
+/// What every editable text control shares: the text with its caret and selection,
+/// editing by keyboard and mouse, the clipboard, undo of the last edit, limits on
+/// what may be typed, a placeholder, obfuscated display, and the callbacks that
+/// tell the owner about typing, commits and cancels. How the text is placed (one
+/// scrolling line, or wrapped lines) is the subclass's part.
+///
+/// Typed characters arrive as text events. The key presses that come with them are
+/// swallowed, so a character never goes in twice; a text event of one character
+/// goes through handleKeyboardEvent like any key, so a subclass can act on it, and
+/// a longer one (an input method's commit) goes in as one edit.
+///
+/// Callbacks are not run inside the box's own handling: a callback given as a
+/// WidgetCallback with a function runs at once, after the box has finished its
+/// change; a named message is posted and, when it arrives, is offered to the
+/// target and then to the target's parents until one takes it.
 class TextBoxBase : public StandardPanel, public TabOrderable {
 public:
     // What a callback reports. kCharTyped comes with every change the user makes

@@ -5,10 +5,11 @@
 #include "draw/GlibDescriptions.h"
 #include "glob/Glob.h"
 
-// One line of text that the user reads and does not edit, in the colours of its
-// palette: the window colour behind, the text colour in front.
+/// One line of text that the user reads and does not edit, in the colours of its
+/// palette: the window colour behind, the text colour in front.
 class TextLabel : public Glob, public Glib::FontUser {
 public:
+    /// What a TextLabel is made from: its text, its size and its font.
     struct InitArgs : GlobCreationInfo {
         UIString text;
         Glib::FontDesc font;

@@ -4,21 +4,22 @@
 #include "glob/StandardPanel.h"
 #include "glob/WidgetPosition.h"
 
-// A small window of text that appears beside something on the screen: a
-// tooltip, a hint, a passing status. As a top-level glob it paints a pale face
-// with a thin frame; as the child of a panel it paints in the panel's colours,
-// like a label. The text is wrapped to the window's width and centred vertically
-// in textBox().
-//
-// Tooltips: while the mouse rests on a glob whose contextString() (or whose
-// nearest ancestor's) is not empty, for tooltipDelay() milliseconds of
-// msecsNow(), a tip window with that text (and getTooltipDetails() on a line
-// below) opens below and right of the pointer. It closes when the mouse reaches
-// another glob, on any button or key, or when its glob goes; after a click the
-// same glob shows no tip again until the mouse has left it. Timing runs on the
-// toolkit's timer ticks.
+/// A small window of text that appears beside something on the screen: a
+/// tooltip, a hint, a passing status. As a top-level glob it paints a pale face
+/// with a thin frame; as the child of a panel it paints in the panel's colours,
+/// like a label. The text is wrapped to the window's width and centred vertically
+/// in textBox().
+///
+/// Tooltips: while the mouse rests on a glob whose contextString() (or whose
+/// nearest ancestor's) is not empty, for tooltipDelay() milliseconds of
+/// msecsNow(), a tip window with that text (and getTooltipDetails() on a line
+/// below) opens below and right of the pointer. It closes when the mouse reaches
+/// another glob, on any button or key, or when its glob goes; after a click the
+/// same glob shows no tip again until the mouse has left it. Timing runs on the
+/// toolkit's timer ticks.
 class TipWindowBase : public StandardPanel {
 public:
+    /// What a tip window is made from: its text, the side it takes, and its spacing.
     struct InitArgs : StandardPanel::InitArgs {
         UIString text;
         // Which side of the thing it describes the window takes, and how far off.

@@ -3,12 +3,13 @@
 #include "Button.h"
 #include "TitleGlob.h"
 
-// A titled row whose control is a Button. The button fills the room right of the
-// legend unless a width is asked for, in which case it keeps that width at the
-// row's right edge. Its callback fires as a plain Button's would; with no callback
-// the message reaches the row's owner with the button as sender.
+/// A titled row whose control is a Button. The button fills the room right of the
+/// legend unless a width is asked for, in which case it keeps that width at the
+/// row's right edge. Its callback fires as a plain Button's would; with no callback
+/// the message reaches the row's owner with the button as sender.
 class TitleButton : public TitleGlob {
 public:
+    /// What a TitleButton is made from: a legend's record, and the button's label, callback and width.
     struct InitArgs : TitleGlob::InitArgs {
         UIString label;
         WidgetCallback callback;

@@ -5,24 +5,25 @@
 #include "draw/GlibDescriptions.h"
 #include "glob/StandardPanel.h"
 
-// A row of a parameter panel: a legend at the left and a control at the right.
-//
-// Geometry, in the row's own coordinates: the legend column runs from x = 0 to
-// getTitleWidth(), the whole height of the row; the legend is drawn in it from
-// UifStd's legend inset, as in every titled row, to a widget gap short of its right
-// side, vertically centred. The control is the first
-// child added to the row (or the one named by setControl); it takes the width the
-// legend column leaves. When the row is resized the legend column keeps its width,
-// the control gains or loses the whole change of width, and a control placed by
-// one of the right-hand origins is centred vertically again. setTitleWidth moves
-// the column's edge and gives the control what is left, so a panel can line up
-// the legends of all its rows by giving each the width of the widest.
-//
-// The legend is not a title bar: setTitle on a row changes the legend.
-// setActive passes on to every child and dims the legend. Messages that the
-// control sends to the row go on to the row's owner, with the control as sender.
+/// A row of a parameter panel: a legend at the left and a control at the right.
+///
+/// Geometry, in the row's own coordinates: the legend column runs from x = 0 to
+/// getTitleWidth(), the whole height of the row; the legend is drawn in it from
+/// UifStd's legend inset, as in every titled row, to a widget gap short of its right
+/// side, vertically centred. The control is the first
+/// child added to the row (or the one named by setControl); it takes the width the
+/// legend column leaves. When the row is resized the legend column keeps its width,
+/// the control gains or loses the whole change of width, and a control placed by
+/// one of the right-hand origins is centred vertically again. setTitleWidth moves
+/// the column's edge and gives the control what is left, so a panel can line up
+/// the legends of all its rows by giving each the width of the widest.
+///
+/// The legend is not a title bar: setTitle on a row changes the legend.
+/// setActive passes on to every child and dims the legend. Messages that the
+/// control sends to the row go on to the row's owner, with the control as sender.
 class TitleGlob : public StandardPanel {
 public:
+    /// What a titled row is made from: its legend, the legend column's width and its font.
     struct InitArgs : GlobCreationInfo {
         UIString title;
         // The legend column's width; 0 measures it from the title.

@@ -3,11 +3,12 @@
 #include "DropDownMenuButton.h"
 #include "glob/StandardPanel.h"
 
-// A title at the left and a drop-down at the right, on one row. The drop-down's
-// messages (ddBtnClickMsg at once, the rest posted) go on to this widget's owner
-// with this widget as their sender; bind a value to getBtn().
+/// A title at the left and a drop-down at the right, on one row. The drop-down's
+/// messages (ddBtnClickMsg at once, the rest posted) go on to this widget's owner
+/// with this widget as their sender; bind a value to getBtn().
 class TitleMenuButton : public StandardPanel {
 public:
+    /// What a TitleMenuButton is made from: its legend, the drop-down's entries or rows, and its width.
     struct InitArgs : GlobCreationInfo {
         std::vector<UIString> entries;
         // Rows to use instead of the entries, when there are any.

@@ -3,15 +3,16 @@
 #include "TextBox.h"
 #include "value/ValWidget.h"
 
-// A text box with a legend on its left: a row of a form. The legend takes the
-// title width and the box the rest. As a value widget it is its box: an adaptor
-// given to it binds the box, and the box's commits are what it requests.
+/// A text box with a legend on its left: a row of a form. The legend takes the
+/// title width and the box the rest. As a value widget it is its box: an adaptor
+/// given to it binds the box, and the box's commits are what it requests.
 class TitleTextBox : public StandardPanel, public TabOrderableHost, public ValWidget<LightweightString<wchar_t>> {
 public:
     // 1: the legend starts at the legend inset, where every titled row's does, so
     // that it lines up with the other legends of a panel; 0: it is set against the box.
     enum eStyle { kLegendAgainstBox = 0, kLegendLeft = 1 };
 
+    /// What a TitleTextBox is made from: its legend, the box's width and first text, and the style.
     struct InitArgs : GlobCreationInfo {
         UIString title;
         // The box's width; 0 leaves the legend as wide as it needs and the box the rest.

@@ -5,19 +5,20 @@
 
 #include <set>
 
-// A tree of items from an iTreeViewAdaptor, shown as an indented list in which an
-// item with children has an opener. A click on the opener, Right and Left, or a
-// double click open and close items; Up and Down walk the visible rows, Left on a
-// closed item goes to its parent. Choosing an item tells the adaptor
-// (handleItemSelected) and then the owner, as a ScrollList does.
-//
-// The adaptor is not owned and must outlive the view. The view reads the tree when
-// it is made and at refresh(); items whose id has gone drop out, open items and the
-// selection are kept by id.
+/// A tree of items from an iTreeViewAdaptor, shown as an indented list in which an
+/// item with children has an opener. A click on the opener, Right and Left, or a
+/// double click open and close items; Up and Down walk the visible rows, Left on a
+/// closed item goes to its parent. Choosing an item tells the adaptor
+/// (handleItemSelected) and then the owner, as a ScrollList does.
+///
+/// The adaptor is not owned and must outlive the view. The view reads the tree when
+/// it is made and at refresh(); items whose id has gone drop out, open items and the
+/// selection are kept by id.
 class TreeView : public ScrollList {
 public:
     using ItemId = iTreeViewAdaptor::ItemId;
 
+    /// What a TreeView is made from: a list's record and the adaptor of the tree (not owned).
     struct InitArgs : ScrollList::InitArgs {
         iTreeViewAdaptor* adaptor = nullptr;
         InitArgs() = default;

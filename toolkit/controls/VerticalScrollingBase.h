@@ -6,19 +6,20 @@
 
 class ScrollBar;
 
-// A panel whose rows scroll vertically: the rows are children of an inner panel,
-// `content`, which is as tall as the rows need and slides inside a clipping view,
-// with a ScrollBar at the right that appears when the rows do not fit.
-//
-// createManagedWidget makes a row and stacks it: each below the one before it, or,
-// with the flag kStackUpward, the newest at the bottom and the older ones above it.
-// The view starts at the top (at the bottom when stacking upward); the wheel, the
-// bar, Page Up, Page Down, Home and End that no row took move it. Rows that were
-// made as wide as the content follow it when the panel is resized.
+/// A panel whose rows scroll vertically: the rows are children of an inner panel,
+/// `content`, which is as tall as the rows need and slides inside a clipping view,
+/// with a ScrollBar at the right that appears when the rows do not fit.
+///
+/// createManagedWidget makes a row and stacks it: each below the one before it, or,
+/// with the flag kStackUpward, the newest at the bottom and the older ones above it.
+/// The view starts at the top (at the bottom when stacking upward); the wheel, the
+/// bar, Page Up, Page Down, Home and End that no row took move it. Rows that were
+/// made as wide as the content follow it when the panel is resized.
 class VerticalScrollingBase : public StandardPanel {
 public:
     enum Flags : unsigned { kStackUpward = 4 };
 
+    /// What a VerticalScrollingBase is made from: its size, the gap between rows, and flags such as kStackUpward.
     struct InitArgs : StandardPanel::InitArgs {
         // The gap between rows; 0xFFFF asks for UifStd's row gap.
         unsigned short rowGap = 0xFFFF;

@@ -3,10 +3,10 @@
 #include "CellEditorBase.h"
 #include "TextBox.h"
 
-// The editor of text cells, and the one a table uses for every kind that has no
-// editor of its own. It paints the adaptor's text with its font, style, colour and
-// alignment, and edits it in a TextBox over the cell: Return or leaving the box
-// keeps the text, Escape goes back to it.
+/// The editor of text cells, and the one a table uses for every kind that has no
+/// editor of its own. It paints the adaptor's text with its font, style, colour and
+/// alignment, and edits it in a TextBox over the cell: Return or leaving the box
+/// keeps the text, Escape goes back to it.
 class WStringEditor : public CellEditorBase<TextBox> {
 public:
     // Paints `text` in the cell as the adaptor styles it; returns the area the text

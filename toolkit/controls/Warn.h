@@ -2,12 +2,13 @@
 
 #include "Message.h"
 
-// A question or warning: a Message with a row of buttons of its own and a stripe
-// of the palette's warning colour down its left side. Each button fires its own
-// callback (with no callback, posts the callback's message to the client) and
-// closes the box; Return presses the first button, Escape closes and fires none.
+/// A question or warning: a Message with a row of buttons of its own and a stripe
+/// of the palette's warning colour down its left side. Each button fires its own
+/// callback (with no callback, posts the callback's message to the client) and
+/// closes the box; Return presses the first button, Escape closes and fires none.
 class Warn : public Message {
 public:
+    /// What a Warn is made from: a Message's record and a label and callback for each of its buttons.
     struct InitArgs : Message::InitArgs {
         std::vector<UIString> labels;
         std::vector<WidgetCallback> callbacks;

@@ -4,16 +4,17 @@
 #include "draw/FontDesc.h"
 #include "glob/StandardPanel.h"
 
-// A labelled frame around a group of controls. The frame is a thin line a little
-// inside the group's edges; the legend sits at the top left and breaks the top
-// line. Children added at User positions lie inside the frame and below the
-// legend: getUserArea() is that inner box. With an empty legend the frame is
-// closed and the user area rises to just under the top line.
-//
-// The legend is not a title bar: setTitle changes the legend. setActive passes on
-// to every child and dims the legend and the frame.
+/// A labelled frame around a group of controls. The frame is a thin line a little
+/// inside the group's edges; the legend sits at the top left and breaks the top
+/// line. Children added at User positions lie inside the frame and below the
+/// legend: getUserArea() is that inner box. With an empty legend the frame is
+/// closed and the user area rises to just under the top line.
+///
+/// The legend is not a title bar: setTitle changes the legend. setActive passes on
+/// to every child and dims the legend and the frame.
 class WidgetGroup : public StandardPanel {
 public:
+    /// What a WidgetGroup is made from: its legend, its size and the legend's font.
     struct InitArgs : GlobCreationInfo {
         UIString title;
         Glib::FontDesc font;

@@ -8,10 +8,10 @@
 class Event;
 class Glob;
 
-// Paints one kind of table cell and edits it in place. A TableWidget keeps one
-// editor per field kind (DBFieldTypes::eType) and uses it for every cell of that
-// kind, so an editor holds at most one editing widget at a time. The widget is a
-// child of the table, which owns it; the editor only keeps a checked reference.
+/// Paints one kind of table cell and edits it in place. A TableWidget keeps one
+/// editor per field kind (DBFieldTypes::eType) and uses it for every cell of that
+/// kind, so an editor holds at most one editing widget at a time. The widget is a
+/// child of the table, which owns it; the editor only keeps a checked reference.
 class iCellEditor : public virtual iObject {
 public:
     // Makes the editing widget as a child of ctx.table if there is none, fills it

@@ -11,12 +11,12 @@
 #include <utility>
 #include <vector>
 
-// What a TableWidget shows: its columns, its number of rows and, cell by cell,
-// the text and its look. Cells are (column, row). The table asks only for the rows
-// it shows, so the data may be as long as it likes; a row past the data an adaptor
-// really has should simply answer with empty text.
-//
-// Everything but the columns, the size and the text has an inert default.
+/// What a TableWidget shows: its columns, its number of rows and, cell by cell,
+/// the text and its look. Cells are (column, row). The table asks only for the rows
+/// it shows, so the data may be as long as it likes; a row past the data an adaptor
+/// really has should simply answer with empty text.
+///
+/// Everything but the columns, the size and the text has an inert default.
 class iTableAdaptor {
 public:
     // Text styles of getTextStyle; 0 leaves the column's plain style.

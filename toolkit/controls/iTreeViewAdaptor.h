@@ -5,10 +5,10 @@
 #include <cstdint>
 #include <vector>
 
-// What a TreeView shows: items named by ids of the adaptor's choosing, asked for
-// level by level as the user opens them. The id 0 is the invisible root, whose
-// children are the top level. The view keeps only ids, so an adaptor may answer
-// from live data; an id that has gone simply stops being listed.
+/// What a TreeView shows: items named by ids of the adaptor's choosing, asked for
+/// level by level as the user opens them. The id 0 is the invisible root, whose
+/// children are the top level. The view keeps only ids, so an adaptor may answer
+/// from live data; an id that has gone simply stops being listed.
 class iTreeViewAdaptor {
 public:
     using ItemId = std::uint64_t;

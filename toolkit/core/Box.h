@@ -6,10 +6,10 @@
 
 namespace Zn {
 
-// Marks boxes whose y grows upward from the bottom left, as every widget coordinate does.
+/// Marks boxes whose y grows upward from the bottom left, as every widget coordinate does.
 struct BottomUpTraits {};
 
-// A rectangle of two corners: (x1, y1) bottom left, inclusive; (x2, y2) top right, exclusive.
+/// A rectangle of two corners: (x1, y1) bottom left, inclusive; (x2, y2) top right, exclusive.
 template <class T, class Traits = BottomUpTraits>
 struct Box {
     T x1{}, y1{}, x2{}, y2{};

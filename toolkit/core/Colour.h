@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-// The toolkit's colour: red, green, blue and alpha as doubles in 0.0 to 1.0.
+/// The toolkit's colour: red, green, blue and alpha as doubles in 0.0 to 1.0.
 class Colour {
 public:
     Colour() = default;

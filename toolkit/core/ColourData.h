@@ -3,7 +3,7 @@
 // 0: red, green, blue in 0..1.  2: hue in degrees 0..360, saturation and value in 0..1.
 enum ColourSpace { kColourSpaceRGB = 0, kColourSpaceHSV = 2 };
 
-// A colour as three components in a colour space, and alpha.
+/// A colour as three components in a colour space, and alpha.
 class ColourData {
 public:
     enum ComponentID { kFirst = 0, kSecond = 1, kThird = 2, kAlpha = 3 };

@@ -9,7 +9,7 @@
 
 class EventHandler;
 
-// The toolkit's event record: input, timer ticks and named messages.
+/// The toolkit's event record: input, timer ticks and named messages.
 class Event {
 public:
     enum Type : int {

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-// Calls a plain function, or any callable the caller supplies.
+/// Calls a plain function, or any callable the caller supplies.
 template <class A, class R>
 class FunctionCallback : public iCallbackBase<R, A> {
 public:

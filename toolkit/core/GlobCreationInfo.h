@@ -7,10 +7,10 @@
 
 class Canvas;
 
-// The creation record every widget's InitArgs derives from. Children get their
-// canvas and palette from the parent; a width of 0 means as wide as the parent's
-// user area. For globs made by type name, `type`, `position` and `settings` say
-// which kind, where, and with what.
+/// The creation record every widget's InitArgs derives from. Children get their
+/// canvas and palette from the parent; a width of 0 means as wide as the parent's
+/// user area. For globs made by type name, `type`, `position` and `settings` say
+/// which kind, where, and with what.
 class GlobCreationInfo : public iVirtual {
 public:
     GlobCreationInfo() = default;

@@ -7,8 +7,8 @@
 
 namespace Zn {
 
-// The token of a registration: the registration ends when the last copy of the
-// guard goes away or release() is called.
+/// The token of a registration: the registration ends when the last copy of the
+/// guard goes away or release() is called.
 class Guard {
 public:
     Guard() = default;

@@ -2,8 +2,8 @@
 
 #include "LightweightString.h"
 
-// The lifetime identity of one object: three numbers, never reused while the
-// process runs. IdStamp(0, 0, 0) is the null stamp.
+/// The lifetime identity of one object: three numbers, never reused while the
+/// process runs. IdStamp(0, 0, 0) is the null stamp.
 class IdStamp {
 public:
     IdStamp() = default;

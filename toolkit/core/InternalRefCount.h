@@ -4,8 +4,8 @@
 
 namespace Zn {
 
-// A reference count that an object carries inside itself. When the last
-// Zn::Ptr lets go, the count deletes its object through the virtual destructor.
+/// A reference count that an object carries inside itself. When the last
+/// Zn::Ptr lets go, the count deletes its object through the virtual destructor.
 class RefCountBase {
 public:
     virtual ~RefCountBase() = default;
@@ -18,7 +18,7 @@ private:
     std::atomic<int> count_{0};
 };
 
-// The count as a virtual base of iObject, so that every interface path reaches the same count.
+/// The count as a virtual base of iObject, so that every interface path reaches the same count.
 class InternalRefCount : public RefCountBase {
 public:
     InternalRefCount() = default;
@@ -27,7 +27,7 @@ public:
     InternalRefCount& operator=(const InternalRefCount&) { return *this; }
 };
 
-// Owns an object that has no count of its own (a std::vector, say).
+/// Owns an object that has no count of its own (a std::vector, say).
 template <class T>
 class ExternalRefCount final : public RefCountBase {
 public:

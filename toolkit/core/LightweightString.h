@@ -8,9 +8,9 @@
 #include <string>
 #include <string_view>
 
-// The toolkit's string, for char (UTF-8 where it carries text) and wchar_t.
-// Copies share one record; a write to a record with more than one owner copies it
-// first. A string with no record is the empty string.
+/// The toolkit's string, for char (UTF-8 where it carries text) and wchar_t.
+/// Copies share one record; a write to a record with more than one owner copies it
+/// first. A string with no record is the empty string.
 template <class C>
 class LightweightString {
 public:
@@ -172,7 +172,10 @@ using WString = LightweightString<wchar_t>;
 // expectations show the text.
 std::ostream& operator<<(std::ostream& os, const LightweightString<wchar_t>& s);
 
+namespace std {
+/// Hashes a string as its text, so strings key unordered containers.
 template <class C>
-struct std::hash<LightweightString<C>> {
+struct hash<LightweightString<C>> {
     std::size_t operator()(const LightweightString<C>& s) const noexcept { return std::hash<std::basic_string_view<C>>()(s.view()); }
 };
+} // namespace std

@@ -5,8 +5,8 @@
 
 #include <vector>
 
-// A vector whose copies share their elements: the elements live in one
-// Zn::Ptr<std::vector<T>>, made at the first write.
+/// A vector whose copies share their elements: the elements live in one
+/// Zn::Ptr<std::vector<T>>, made at the first write.
 template <class T>
 class LightweightVector : public iVirtual {
 public:

@@ -6,8 +6,8 @@
 #include <unordered_map>
 #include <utility>
 
-// A map of at most `capacity` entries that forgets the least recently used one to
-// make room. Keys are strings: callers spell out whatever fixes a value.
+/// A map of at most `capacity` entries that forgets the least recently used one to
+/// make room. Keys are strings: callers spell out whatever fixes a value.
 template <class Value>
 class LruCache {
 public:

@@ -2,8 +2,8 @@
 
 #include "iCallbackBase.h"
 
-// Calls a member function on an object. It holds no reference to the object:
-// whoever keeps the callback must know the object outlives it, or wrap it in a check.
+/// Calls a member function on an object. It holds no reference to the object:
+/// whoever keeps the callback must know the object outlives it, or wrap it in a check.
 template <class C, class A, class R>
 class MethodCallback : public iCallbackBase<R, A> {
 public:

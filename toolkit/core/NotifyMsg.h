@@ -4,7 +4,7 @@
 #include "Ptr.h"
 #include "iObject.h"
 
-// A named notice with an optional payload, read by dynamic cast to the expected type.
+/// A named notice with an optional payload, read by dynamic cast to the expected type.
 class NotifyMsg {
 public:
     NotifyMsg() = default;

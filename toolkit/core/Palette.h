@@ -8,9 +8,9 @@ enum eTextAppearance { kTextNormal = 0, kTextDimmed = 1, kTextOnSelection = 2, k
 enum eSelectionAppearance { kSelectionFocused = 0, kSelectionUnfocused = 1 };
 enum eChildWindowType { kChildEntry = 0, kChildList = 1, kChildInactive = 2 };
 
-// The colours of a widget: seven colours and the step between window shades.
-// Shade 3 is the window colour itself; each step up or down moves it by `shadeStep`
-// towards white or black.
+/// The colours of a widget: seven colours and the step between window shades.
+/// Shade 3 is the window colour itself; each step up or down moves it by `shadeStep`
+/// towards white or black.
 class Palette {
 public:
     enum Slot { kWindow, kText, kSelection, kChildWindow, kDoIt, kWarning, kSubheading, kNumSlots };

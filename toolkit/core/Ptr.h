@@ -8,12 +8,15 @@
 
 namespace Zn {
 
+/// Tags for a Ptr's template arguments for deleting and counting. A Ptr has one
+/// way of each, so the tags only make up its type and never change what it does.
 struct DtorTraits {};
+/// See DtorTraits.
 struct InternalRefCountTraits {};
 
-// The reference-counted pointer of the whole library: the address of the count
-// and the address of the object. Objects derived from InternalRefCount carry their
-// own count; any other type gets a count allocated beside it.
+/// The reference-counted pointer of the whole library: the address of the count
+/// and the address of the object. Objects derived from InternalRefCount carry their
+/// own count; any other type gets a count allocated beside it.
 template <class T, class D = DtorTraits, class C = InternalRefCountTraits>
 class Ptr {
 public:

@@ -7,8 +7,8 @@
 using ResId = std::uint32_t;
 using ResStrFmt = std::uint32_t;
 
-// User-visible text, given literally or as a resource id. getString() looks an
-// empty text up by id, and appends ".." when flag bit 0 is set.
+/// User-visible text, given literally or as a resource id. getString() looks an
+/// empty text up by id, and appends ".." when flag bit 0 is set.
 class UIString {
 public:
     static constexpr ResId kNoResource = 999999;

@@ -3,8 +3,8 @@
 #include "NotifyMsg.h"
 #include "iCallbackBase.h"
 
-// What a control does when it fires: call the callback with a NotifyMsg of the
-// message name and payload, or, with no callback, send the named message to the owner.
+/// What a control does when it fires: call the callback with a NotifyMsg of the
+/// message name and payload, or, with no callback, send the named message to the owner.
 class WidgetCallback : public iObject {
 public:
     WidgetCallback() = default;

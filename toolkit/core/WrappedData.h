@@ -4,8 +4,8 @@
 
 #include <utility>
 
-// One value as a reference-counted iObject, so that it can travel as the payload
-// of a message or a NotifyMsg and be read back by dynamic cast.
+/// One value as a reference-counted iObject, so that it can travel as the payload
+/// of a message or a NotifyMsg and be read back by dynamic cast.
 template <class T>
 class WrappedData : public iObject {
 public:

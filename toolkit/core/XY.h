@@ -1,6 +1,6 @@
 #pragma once
 
-// A pair of coordinates.
+/// A pair of coordinates.
 template <class T>
 struct XY {
     T x{};

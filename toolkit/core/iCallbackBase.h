@@ -2,7 +2,7 @@
 
 #include "iObject.h"
 
-// Something to call with an argument of type A, giving R. Always held by Zn::Ptr.
+/// Something to call with an argument of type A, giving R. Always held by Zn::Ptr.
 template <class R, class A>
 class iCallbackBase : public virtual iObject {
 public:

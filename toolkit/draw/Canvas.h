@@ -13,12 +13,12 @@ struct FontDesc;
 typedef struct _cairo cairo_t;
 typedef struct _cairo_surface cairo_surface_t;
 
-// The drawing surface of one top-level glob and all its children: an ARGB32 image
-// in memory. Coordinates are bottom-up, (0, 0) the bottom-left pixel; the flip to
-// the image's top-down rows happens only in here and in CanvasRenderer.
-//
-// Painting happens relative to an origin (the bottom left of the glob being drawn)
-// and inside a clip box; pushOrigin/popOrigin nest as the glob tree is walked.
+/// The drawing surface of one top-level glob and all its children: an ARGB32 image
+/// in memory. Coordinates are bottom-up, (0, 0) the bottom-left pixel; the flip to
+/// the image's top-down rows happens only in here and in CanvasRenderer.
+///
+/// Painting happens relative to an origin (the bottom left of the glob being drawn)
+/// and inside a clip box; pushOrigin/popOrigin nest as the glob tree is walked.
 class Canvas {
 public:
     Canvas(int width, int height);

@@ -3,9 +3,9 @@
 #include "Canvas.h"
 #include "GlibDescriptions.h"
 
-// Paints Glib descriptions on a canvas at its current origin and clip, and adds
-// what it painted to the canvas's modified area. Every bottom-up to top-down flip
-// of drawing coordinates is in here.
+/// Paints Glib descriptions on a canvas at its current origin and clip, and adds
+/// what it painted to the canvas's modified area. Every bottom-up to top-down flip
+/// of drawing coordinates is in here.
 class CanvasRenderer {
 public:
     explicit CanvasRenderer(Canvas* canvas) : canvas_(canvas) {}

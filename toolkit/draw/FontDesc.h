@@ -7,9 +7,9 @@
 
 namespace Glib {
 
-// A font by family name, pixel size and style. An empty name means the toolkit's
-// default face; a size of 0 its default size. A family that is not installed is
-// replaced by the nearest face the font system has, so text always shows.
+/// A font by family name, pixel size and style. An empty name means the toolkit's
+/// default face; a size of 0 its default size. A family that is not installed is
+/// replaced by the nearest face the font system has, so text always shows.
 struct FontDesc {
     enum Style : unsigned { kPlain = 0, kBold = 1, kItalic = 2, kMonospace = 4 };
 
@@ -38,7 +38,7 @@ std::vector<LightweightString<char>> getAvailableFonts();
 bool isFontAvailable(const LightweightString<char>& family);
 FontDesc getDefaultFont();
 
-// A widget that draws text in a font of its own.
+/// A widget that draws text in a font of its own.
 class FontUser {
 public:
     virtual ~FontUser() = default;

@@ -11,6 +11,7 @@
 // drawn (bottom-up). CanvasRenderer turns them into pixels.
 namespace Glib {
 
+/// A rectangle, filled or not, optionally outlined and with rounded corners.
 struct RectDescription {
     BoxInt box;
     Colour fill;
@@ -27,7 +28,7 @@ struct RectDescription {
     RectDescription(const BoxInt& b, const Colour& c) : box(b), fill(c) {}
 };
 
-// A line between pixel centres: (0, 0) to (9, 0) lights pixels 0..9 of row 0.
+/// A line between pixel centres: (0, 0) to (9, 0) lights pixels 0..9 of row 0.
 struct LineDescription {
     XY<double> from, to;
     Colour colour;
@@ -37,9 +38,9 @@ struct LineDescription {
     LineDescription(XY<double> a, XY<double> b, const Colour& c, double w = 1.0) : from(a), to(b), colour(c), width(w) {}
 };
 
-// An ellipse, filled, or a ring of `lineWidth` centred on its edge. Between the
-// angles (degrees clockwise from straight up) only that arc is drawn: a full turn,
-// 0 to 360, is the whole shape.
+/// An ellipse, filled, or a ring of `lineWidth` centred on its edge. Between the
+/// angles (degrees clockwise from straight up) only that arc is drawn: a full turn,
+/// 0 to 360, is the whole shape.
 struct EllipseDescription {
     XY<double> centre;
     XY<double> radii;
@@ -73,8 +74,8 @@ enum eHorizontalAlign { kAlignDefault = -1, kAlignLeft = 0, kAlignRight = 1, kAl
 // box taller than the text (a table row, a log row).
 enum eVerticalAlign { kAlignMiddle = 0, kAlignTop = 1, kAlignBottom = 2 };
 
-// The two together, the alignment of text boxes, table cells and mark-up. Numbers
-// from outside that name no alignment give kAlignDefault and kAlignMiddle.
+/// The two together, the alignment of text boxes, table cells and mark-up. Numbers
+/// from outside that name no alignment give kAlignDefault and kAlignMiddle.
 struct TextAlignment {
     eHorizontalAlign horizontal = kAlignDefault;
     eVerticalAlign vertical = kAlignMiddle;
@@ -87,8 +88,8 @@ struct TextAlignment {
     bool operator==(const TextAlignment&) const = default;
 };
 
-// One line of text inside a box: aligned horizontally as `align` says, centred
-// vertically, cut off at the box's edges.
+/// One line of text inside a box: aligned horizontally as `align` says, centred
+/// vertically, cut off at the box's edges.
 struct TextDescription {
     BoxInt box;
     LightweightString<wchar_t> text;
@@ -103,9 +104,9 @@ struct TextDescription {
         : box(b), text(t), font(f), colour(c), align(a) {}
 };
 
-// A picture, or the part `from` of it (in its own pixels, counted upward from its
-// bottom left; empty for all of it), stretched over `to`. Only pictures whose pixels
-// are in memory can be painted; others are skipped.
+/// A picture, or the part `from` of it (in its own pixels, counted upward from its
+/// bottom left; empty for all of it), stretched over `to`. Only pictures whose pixels
+/// are in memory can be painted; others are skipped.
 struct ImageDescription {
     Zn::Ptr<iImage> image;
     BoxInt from;

@@ -6,10 +6,10 @@
 #include <cstddef>
 #include <vector>
 
-// HTMLRenderer's paragraphs laid out once at one width, for a control that paints
-// them again and asks what lies under the mouse. Every line takes a row of the
-// same height, as HTMLRenderer::render paints them, so that n lines are n rows
-// high whatever their fonts: what is measured in lines is what is painted.
+/// HTMLRenderer's paragraphs laid out once at one width, for a control that paints
+/// them again and asks what lies under the mouse. Every line takes a row of the
+/// same height, as HTMLRenderer::render paints them, so that n lines are n rows
+/// high whatever their fonts: what is measured in lines is what is painted.
 class HTMLLayout {
 public:
     // `align` is the Glib::eHorizontalAlign of paragraphs that name none.

@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
-// Reads HTMLRenderer's mark-up into paragraphs of styled runs. It never fails:
-// what it does not understand is dropped or kept as text, as a browser would.
+/// Reads HTMLRenderer's mark-up into paragraphs of styled runs. It never fails:
+/// what it does not understand is dropped or kept as text, as a browser would.
 class HTMLParser {
 public:
     explicit HTMLParser(const Palette& palette);

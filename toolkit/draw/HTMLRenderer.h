@@ -12,10 +12,11 @@
 
 class Canvas;
 
-// The small mark-up of labels and log rows: <p> and <div> paragraphs (with an
-// align attribute), <br>, <b>/<strong>, <i>/<em>, <u>, <a href>, <span>,
-// <font color size face>, <h1> to <h6>, and the entities &lt; &gt; &amp; &quot;
-// &apos; &nbsp; and &#n;. Anything else is dropped, keeping the text inside.
+/// The small mark-up of labels and log rows: `<p>` and `<div>` paragraphs (with an
+/// align attribute), `<br>`, `<b>`/`<strong>`, `<i>`/`<em>`, `<u>`, `<a href>`, `<span>`,
+/// `<font color size face>`, `<h1>` to `<h6>`, the entities named lt, gt, amp,
+/// quot, apos and nbsp, and numbered ones (`&#n;`). Anything else is dropped,
+/// keeping the text inside.
 class HTMLRenderer {
 public:
     // Glib::kAlignTop is what log rows use: a cell can be taller than the text it shows.
@@ -32,6 +33,7 @@ public:
         bool sameStyle(const Run& o) const { return font == o.font && colour == o.colour && underline == o.underline && link == o.link; }
     };
 
+    /// A paragraph of runs, with its own alignment.
     struct Paragraph {
         std::vector<Run> runs;
         Glib::eHorizontalAlign align = Glib::kAlignDefault; // the default takes the render call's

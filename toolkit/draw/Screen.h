@@ -11,11 +11,12 @@
 
 class Canvas;
 
-// The one screen surface on which top-level canvases are composited in z-order.
-// It exists headless too: screenshots, the eye dropper and tests read it, and a
-// window backend shows it.
+/// The one screen surface on which top-level canvases are composited in z-order.
+/// It exists headless too: screenshots, the eye dropper and tests read it, and a
+/// window backend shows it.
 class Screen {
 public:
+    /// One canvas to composite, and where and how; the screen does not own the canvas.
     struct Layer {
         const Canvas* canvas;
         XY<int> position; // bottom left on the screen

@@ -10,12 +10,12 @@
 
 namespace Glib {
 
-// Coverage masks of shapes, kept across paints. Rasterizing a curve or a slanted
-// line costs cairo several times what painting its mask does, and a panel paints
-// the same thumbs, wells, ticks and rounded boxes row after row. A mask holds the
-// coverage that painting the shape directly would give, so painting through it
-// matches to within one step of rounding. One cache per thread. Private to
-// toolkit/draw.
+/// Coverage masks of shapes, kept across paints. Rasterizing a curve or a slanted
+/// line costs cairo several times what painting its mask does, and a panel paints
+/// the same thumbs, wells, ticks and rounded boxes row after row. A mask holds the
+/// coverage that painting the shape directly would give, so painting through it
+/// matches to within one step of rounding. One cache per thread. Private to
+/// toolkit/draw.
 class ShapeMaskCache {
 public:
     static ShapeMaskCache& forThisThread();

@@ -10,12 +10,13 @@
 
 namespace Glib {
 
-// One-line texts shaped for painting, kept across paints: a panel repaints the
-// same legends and values over and over, and shaping is most of what text costs.
-// One cache per thread, like the Pango context its layouts are made on. Private
-// to toolkit/draw.
+/// One-line texts shaped for painting, kept across paints: a panel repaints the
+/// same legends and values over and over, and shaping is most of what text costs.
+/// One cache per thread, like the Pango context its layouts are made on. Private
+/// to toolkit/draw.
 class ShapedTextCache {
 public:
+    /// One shaped text: its Pango layout, its logical size, and its coverage once painted.
     struct Shaped {
         std::unique_ptr<PangoLayout, void (*)(gpointer)> layout{nullptr, g_object_unref};
         PangoRectangle logical{}; // in pixels

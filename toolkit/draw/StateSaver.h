@@ -4,8 +4,8 @@ class Canvas;
 
 namespace Glib {
 
-// Saves the drawing state over a scope: which canvas is current, and that
-// canvas's colour, line, clip and origin settings, all restored on exit.
+/// Saves the drawing state over a scope: which canvas is current, and that
+/// canvas's colour, line, clip and origin settings, all restored on exit.
 class StateSaver {
 public:
     StateSaver();

@@ -9,15 +9,15 @@
 
 namespace Glib {
 
-// Measures one line of text and counts the lines of word-wrapped text without a
-// Pango layout, for the text that legends, labels and logs are mostly made of:
-// Latin letters, digits, spaces and the punctuation around which the line-breaking
-// rules allow a break only at spaces. Widths come from the advance of each
-// character and the kerning of each pair, each measured by Pango once and cached,
-// so the answers are Pango's own. Anything else (other scripts, tabs, hyphens and
-// slashes, "ff" in a one-line measure, a word too wide for a line, a line that ends
-// within a hair of the width) is left to Pango: the answer then says so.
-// One cache per thread, like the Pango context it measures with.
+/// Measures one line of text and counts the lines of word-wrapped text without a
+/// Pango layout, for the text that legends, labels and logs are mostly made of:
+/// Latin letters, digits, spaces and the punctuation around which the line-breaking
+/// rules allow a break only at spaces. Widths come from the advance of each
+/// character and the kerning of each pair, each measured by Pango once and cached,
+/// so the answers are Pango's own. Anything else (other scripts, tabs, hyphens and
+/// slashes, "ff" in a one-line measure, a word too wide for a line, a line that ends
+/// within a hair of the width) is left to Pango: the answer then says so.
+/// One cache per thread, like the Pango context it measures with.
 class TextAdvanceCache {
 public:
     static TextAdvanceCache& forThisThread();

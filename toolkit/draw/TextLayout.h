@@ -14,18 +14,18 @@ typedef struct _cairo_surface cairo_surface_t;
 
 namespace Glib {
 
-// A text laid out once, for editing: where the caret stands before each character,
-// which caret position a point is nearest to, the boxes a selection covers, and
-// the painting of all of it or of a clipped part. Editing controls keep one per
-// text and ask it everything, so what they measure is what they paint.
-//
-// Indices count the characters of the wide string, 0 to length(). Positions are
-// pixels from the layout's top left with y growing downward, the way lines are
-// read; render() is what places the layout in a glob's bottom-up coordinates.
-//
-// With a wrap width above 0 the text breaks into lines between words (inside a
-// word only when it is wider than the width) and at every line feed. Otherwise it
-// is a single line, on which a line feed shows as a glyph.
+/// A text laid out once, for editing: where the caret stands before each character,
+/// which caret position a point is nearest to, the boxes a selection covers, and
+/// the painting of all of it or of a clipped part. Editing controls keep one per
+/// text and ask it everything, so what they measure is what they paint.
+///
+/// Indices count the characters of the wide string, 0 to length(). Positions are
+/// pixels from the layout's top left with y growing downward, the way lines are
+/// read; render() is what places the layout in a glob's bottom-up coordinates.
+///
+/// With a wrap width above 0 the text breaks into lines between words (inside a
+/// word only when it is wider than the width) and at every line feed. Otherwise it
+/// is a single line, on which a line feed shows as a glyph.
 class TextLayout {
 public:
     // A box in layout coordinates.

@@ -4,7 +4,7 @@
 
 namespace Glib {
 
-// The video window of a panel: a box of the panel's canvas.
+/// The video window of a panel: a box of the panel's canvas.
 class VideoWindow : public iRootVideoWindow {
 public:
     VideoWindow() = default;

@@ -14,9 +14,9 @@ typedef struct _PangoLayout PangoLayout;
 
 namespace Glib {
 
-// Text broken into lines that fit a width, as Pango breaks it: between words,
-// inside a word only when the word alone is wider than the width, and at every
-// line feed. The lines are drawn one per row, from the top of a box down.
+/// Text broken into lines that fit a width, as Pango breaks it: between words,
+/// inside a word only when the word alone is wider than the width, and at every
+/// line feed. The lines are drawn one per row, from the top of a box down.
 class WordWrappingTextRenderer {
 public:
     // A width of 0 or less does not wrap: only line feeds break lines. `align` is

@@ -8,9 +8,9 @@
 
 class Canvas;
 
-// A window that video is shown in: a box of a canvas that frames are painted into
-// directly, apart from the redraws of the globs around it. The window keeps the
-// last frame, so that its owner can put it back after painting over it.
+/// A window that video is shown in: a box of a canvas that frames are painted into
+/// directly, apart from the redraws of the globs around it. The window keeps the
+/// last frame, so that its owner can put it back after painting over it.
 class iRootVideoWindow {
 public:
     virtual ~iRootVideoWindow() = default;

@@ -2,9 +2,9 @@
 
 #include "core/enumFromInt.h"
 
-// The frame of a panel: a type, a width in pixels, and the sides it covers (`sides`
-// bits: 1 left, 2 right, 4 bottom, 8 top). The type numbers are part of the
-// toolkit's contract (NUMBERS.md); the rounded types frame all four sides.
+/// The frame of a panel: a type, a width in pixels, and the sides it covers (`sides`
+/// bits: 1 left, 2 right, 4 bottom, 8 top). The type numbers are part of the
+/// toolkit's contract (NUMBERS.md); the rounded types frame all four sides.
 class Border {
 public:
     enum eType {

@@ -9,10 +9,10 @@ class EventHandler;
 
 enum eRedrawFlag { kNoRedraw = 0, kRedraw = 1 };
 
-// Something that paints on request. While redraws are disabled (the brackets
-// nest), requests are remembered and carried out once by update() or by the
-// enableRedraws() that closes the outermost bracket. Requests from an object that
-// has died meanwhile are dropped.
+/// Something that paints on request. While redraws are disabled (the brackets
+/// nest), requests are remembered and carried out once by update() or by the
+/// enableRedraws() that closes the outermost bracket. Requests from an object that
+/// has died meanwhile are dropped.
 class Drawable {
 public:
     explicit Drawable(EventHandler* owner) : owner_(owner) {}

@@ -4,9 +4,9 @@
 #include "core/IdStamp.h"
 #include "core/iObject.h"
 
-// Something that takes events. Every handler carries an IdStamp and is listed in a
-// registry of live handlers for its whole life, so that a pointer can be checked
-// without touching the object it may no longer denote.
+/// Something that takes events. Every handler carries an IdStamp and is listed in a
+/// registry of live handlers for its whole life, so that a pointer can be checked
+/// without touching the object it may no longer denote.
 class EventHandler : public virtual iObject {
 public:
     EventHandler();

@@ -14,12 +14,12 @@
 
 class Canvas;
 
-// A widget: a box in a tree, drawn on the canvas it shares with its top-level
-// ancestor, driven by events and named messages.
-//
-// A parent owns its children and deletes them with itself. Positions count upward
-// from the bottom left of the parent. A glob made without a canvas is a top-level
-// glob with a canvas of its own; adding it to a parent moves it onto the parent's.
+/// A widget: a box in a tree, drawn on the canvas it shares with its top-level
+/// ancestor, driven by events and named messages.
+///
+/// A parent owns its children and deletes them with itself. Positions count upward
+/// from the bottom left of the parent. A glob made without a canvas is a top-level
+/// glob with a canvas of its own; adding it to a parent moves it onto the parent's.
 class Glob : public EventHandler, public Drawable, public Dirtiable {
 public:
     enum eSizeState { kNormalSize = 0, kMinimised = 1, kMaximised = 2 };

@@ -14,9 +14,9 @@ class Glob;
 class InputDispatcher;
 class Screen;
 
-// Keeps the top-level globs and runs the user-interface thread's work: it
-// realizes panels onto the screen in z-order, delivers posted messages, deletes
-// globs at safe moments, ticks timers, routes input, and makes globs by kind name.
+/// Keeps the top-level globs and runs the user-interface thread's work: it
+/// realizes panels onto the screen in z-order, delivers posted messages, deletes
+/// globs at safe moments, ticks timers, routes input, and makes globs by kind name.
 class GlobManager {
 public:
     using Maker = std::function<Glob*(const GlobCreationInfo&)>;
@@ -131,7 +131,7 @@ private:
     bool screenDirty_ = true;
 };
 
-// Registers a kind of glob by name at load: a static GlobKindRegistration beside the class.
+/// Registers a kind of glob by name at load: a static GlobKindRegistration beside the class.
 struct GlobKindRegistration {
     GlobKindRegistration(const char* type, GlobManager::Maker maker) { GlobManager::registerGlobKind(type, std::move(maker)); }
 };

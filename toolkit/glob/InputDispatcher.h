@@ -6,10 +6,10 @@
 
 class Glob;
 
-// Routes input in screen coordinates to globs. The mouse goes to the deepest glob
-// under it (or to the glob that took the button down, until it is released), keys
-// and typed text to the glob with keyboard focus; either bubbles up through the
-// parents until one consumes it. Every pointer it keeps is checked by stamp.
+/// Routes input in screen coordinates to globs. The mouse goes to the deepest glob
+/// under it (or to the glob that took the button down, until it is released), keys
+/// and typed text to the glob with keyboard focus; either bubbles up through the
+/// parents until one consumes it. Every pointer it keeps is checked by stamp.
 class InputDispatcher {
 public:
     void dispatch(const Event& e);

@@ -7,11 +7,12 @@
 
 class EventHandler;
 
-// Messages on their way to the user-interface thread. Any thread may post; only
-// the user-interface thread takes. Each message remembers its target's stamp, so a
-// target that dies before delivery simply misses it.
+/// Messages on their way to the user-interface thread. Any thread may post; only
+/// the user-interface thread takes. Each message remembers its target's stamp, so a
+/// target that dies before delivery simply misses it.
 class MessageQueue {
 public:
+    /// A message and its target, with the target's stamp taken when it was posted.
     struct Item {
         Event event;
         EventHandler* target = nullptr;

@@ -6,11 +6,12 @@
 #include "controls/MenuGlob.h"
 #include "draw/FontDesc.h"
 
-// The toolkit's panel: a glob with a border, an optional title bar with window
-// furniture, a user area for its children, a tab order, a context menu, and a
-// dispatch of events to the handle... family. Most widgets derive from it.
+/// The toolkit's panel: a glob with a border, an optional title bar with window
+/// furniture, a user area for its children, a tab order, a context menu, and a
+/// dispatch of events to the handle... family. Most widgets derive from it.
 class StandardPanel : public Glob, public Glib::FontUser, public MenuGlob {
 public:
+    /// What a StandardPanel is made from: a glob's record and a border (none by default).
     struct InitArgs : GlobCreationInfo {
         Border border{Border::kNoBorder, 0, 15};
         InitArgs() = default;

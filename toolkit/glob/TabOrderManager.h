@@ -6,7 +6,7 @@
 
 class Glob;
 
-// A control that the Tab key can reach.
+/// A control that the Tab key can reach.
 class TabOrderable {
 public:
     virtual ~TabOrderable() = default;
@@ -15,15 +15,15 @@ public:
     virtual bool canTakeTabFocus() { return true; }
 };
 
-// A compound widget that offers the tab stops of its parts.
+/// A compound widget that offers the tab stops of its parts.
 class TabOrderableHost {
 public:
     virtual ~TabOrderableHost() = default;
     virtual std::vector<TabOrderable*> getTabStops() = 0;
 };
 
-// The order in which Tab and Shift+Tab move the keyboard focus through a panel's
-// controls. Stops whose glob has died, is hidden or inactive are passed over.
+/// The order in which Tab and Shift+Tab move the keyboard focus through a panel's
+/// controls. Stops whose glob has died, is hidden or inactive are passed over.
 class TabOrderManager {
 public:
     static constexpr unsigned int kAppend = 0xFFFFFFFE;

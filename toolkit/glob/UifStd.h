@@ -4,9 +4,9 @@
 #include "core/UIString.h"
 #include "draw/FontDesc.h"
 
-// The source of every metric and of the appearance. Layout code asks it for row
-// heights, gaps and fonts instead of holding pixel numbers; every metric is a base
-// figure times the scale, so a scale of 2 makes the whole interface HiDPI.
+/// The source of every metric and of the appearance. Layout code asks it for row
+/// heights, gaps and fonts instead of holding pixel numbers; every metric is a base
+/// figure times the scale, so a scale of 2 makes the whole interface HiDPI.
 class UifStd {
 public:
     static UifStd& instance();

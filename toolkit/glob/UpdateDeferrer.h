@@ -2,8 +2,8 @@
 
 namespace Glib {
 
-// Holds back the redraws asked for in its scope and carries them out together
-// at its end, so that painting done in pieces reaches the screen once.
+/// Holds back the redraws asked for in its scope and carries them out together
+/// at its end, so that painting done in pieces reaches the screen once.
 class UpdateDeferrer {
 public:
     UpdateDeferrer();

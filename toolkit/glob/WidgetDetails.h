@@ -3,7 +3,7 @@
 #include "WidgetPosition.h"
 #include "WidgetSurround.h"
 
-// The toolkit's record of one child in its parent.
+/// The toolkit's record of one child in its parent.
 struct WidgetDetails {
     Glob* child = nullptr;
     WidgetPosition position;

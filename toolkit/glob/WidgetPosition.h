@@ -41,6 +41,7 @@ enum eWidgetRelativity { kNoRelativity = 0, kLeftOf = 1, kRightOf = 2, kAbove = 
 // nothing in particular and lines up the start edges.
 enum eWidgetAlignment { kAlignNone = 0, kAlignStart = 1, kAlignCentre = 2, kAlignEnd = 3 };
 
+/// A place beside a sibling: which side, how far off, and which edges line up.
 struct SiblingRelativePosition {
     eWidgetRelativity relativity = kBelow;
     Glob* sibling = nullptr;
@@ -48,6 +49,8 @@ struct SiblingRelativePosition {
     eWidgetAlignment alignment = kAlignStart;
 };
 
+/// Where a child goes in its parent: an offset from one of the parent's corners or
+/// sides (`origin`), or a place beside a sibling; kNoPosition centres it.
 struct WidgetPosition {
     eCoordinateOrigin origin = kNoPosition;
     XY<int> offset;

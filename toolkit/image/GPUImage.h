@@ -3,7 +3,7 @@
 #include "core/Ptr.h"
 #include "iGPUImage.h"
 
-// The GPU image of this platform: a host image's pixels behind the GPU interface.
+/// The GPU image of this platform: a host image's pixels behind the GPU interface.
 class GPUImage : public iGPUImage {
 public:
     // A transparent picture of the size; sizes below 1 give an empty picture.

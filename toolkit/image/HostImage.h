@@ -4,7 +4,7 @@
 #include "core/Ptr.h"
 #include "iHostImage.h"
 
-// A host image held in a Cairo image surface.
+/// A host image held in a Cairo image surface.
 class HostImage : public iHostImage {
 public:
     // A transparent picture of the size; sizes below 1 give an empty picture.

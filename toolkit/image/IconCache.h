@@ -6,8 +6,8 @@
 
 #include <map>
 
-// The pictures of icons by path, read once: a panel full of buttons with the
-// same icon shares one picture. User-interface thread only.
+/// The pictures of icons by path, read once: a panel full of buttons with the
+/// same icon shares one picture. User-interface thread only.
 class IconCache {
 public:
     static IconCache& instance();

@@ -6,8 +6,8 @@
 
 typedef struct _cairo_surface cairo_surface_t;
 
-// A picture whose pixels are in memory: four bytes a pixel, blue, green, red,
-// alpha (premultiplied), rows from the top, `stride` bytes apart.
+/// A picture whose pixels are in memory: four bytes a pixel, blue, green, red,
+/// alpha (premultiplied), rows from the top, `stride` bytes apart.
 class iHostImage : public iImage {
 public:
     virtual std::uint8_t* data() = 0;

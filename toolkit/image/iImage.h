@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-// A picture of some size, wherever its pixels live.
+/// A picture of some size, wherever its pixels live.
 class iImage : public virtual iObject {
 public:
     virtual XY<int> getSize() const = 0;

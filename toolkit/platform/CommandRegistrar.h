@@ -7,8 +7,8 @@
 #include <functional>
 #include <vector>
 
-// Commands by name: registered at load by the code that defines them, invoked by
-// name with an optional argument object, listable for menus and programs.
+/// Commands by name: registered at load by the code that defines them, invoked by
+/// name with an optional argument object, listable for menus and programs.
 class CommandRegistrar {
 public:
     using Command = std::function<void(const Zn::Ptr<iObject>& argument)>;

@@ -2,7 +2,7 @@
 
 #include "core/LightweightString.h"
 
-// One entry of a configb: a type word and a value, both text.
+/// One entry of a configb: a type word and a value, both text.
 struct ConfigEntryT {
     LightweightString<char> type;
     LightweightString<char> value;

@@ -2,13 +2,13 @@
 
 #include "configb.h"
 
-// The text form of a configb, for keeping one in a file: a JSON object whose keys
-// are the entries' keys, in their order, each holding its type word and its value
-// as strings, as in {"gain": {"type": "double", "value": "0.5"}}.
-//
-// Reading is all or nothing for text that is not such an object, so a torn or
-// foreign file leaves the store as it was. Inside a good object, an entry of the
-// wrong shape is dropped and the others are kept.
+/// The text form of a configb, for keeping one in a file: a JSON object whose keys
+/// are the entries' keys, in their order, each holding its type word and its value
+/// as strings, as in {"gain": {"type": "double", "value": "0.5"}}.
+///
+/// Reading is all or nothing for text that is not such an object, so a torn or
+/// foreign file leaves the store as it was. Inside a good object, an entry of the
+/// wrong shape is dropped and the others are kept.
 class ConfigbFile {
 public:
     static LightweightString<char> toText(const configb& config);

@@ -4,10 +4,10 @@
 
 #include <cstdint>
 
-// A unique identifier with a kind letter, a version and a flag word, written as
-// text that is safe in a file name: the kind letter, the version and flags in hex,
-// then 32 hex digits, such as "T00-00-9f0c...". Text that is not a cookie reads
-// back as the null cookie.
+/// A unique identifier with a kind letter, a version and a flag word, written as
+/// text that is safe in a file name: the kind letter, the version and flags in hex,
+/// then 32 hex digits, such as "T00-00-9f0c...". Text that is not a cookie reads
+/// back as the null cookie.
 class Cookie {
 public:
     Cookie() = default;

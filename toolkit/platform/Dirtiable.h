@@ -1,6 +1,6 @@
 #pragma once
 
-// Something that notes that it has unsaved changes.
+/// Something that notes that it has unsaved changes.
 class Dirtiable {
 public:
     virtual ~Dirtiable() = default;

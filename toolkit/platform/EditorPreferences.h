@@ -5,10 +5,10 @@
 #include <mutex>
 #include <nlohmann/json.hpp>
 
-// The user's preferences: keys and values in "preferences.json" in the settings
-// folder. Every change is written at once, through a temporary file renamed over
-// the old one, so a crash never leaves a torn file. A file that is not JSON is
-// moved aside to "preferences.json.corrupt" and the defaults are used.
+/// The user's preferences: keys and values in "preferences.json" in the settings
+/// folder. Every change is written at once, through a temporary file renamed over
+/// the old one, so a crash never leaves a torn file. A file that is not JSON is
+/// moved aside to "preferences.json.corrupt" and the defaults are used.
 class EditorPreferences {
 public:
     // Preferences stored in `folder`; the folder is made when first written.

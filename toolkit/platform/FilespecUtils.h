@@ -4,8 +4,8 @@
 
 namespace Zn {
 
-// Makes file paths out of names that come from users, clip names or log titles,
-// none of which can be trusted to be a valid file name.
+/// Makes file paths out of names that come from users, clip names or log titles,
+/// none of which can be trusted to be a valid file name.
 class FilespecUtils {
 public:
     // The path of a file named `name` with `extension` (with or without its dot)

@@ -9,9 +9,9 @@ class TextFile;
 
 namespace JSON {
 
-// Writes a JSON document step by step: children and arrays are opened and
-// closed around the values added into them. Inside an array, values are added
-// with an empty (or null) key. Keys keep the order they were added in.
+/// Writes a JSON document step by step: children and arrays are opened and
+/// closed around the values added into them. Inside an array, values are added
+/// with an empty (or null) key. Keys keep the order they were added in.
 class Builder {
 public:
     // `indent`: spaces per level of the output; 0 writes one line.

@@ -8,16 +8,18 @@
 
 namespace JSON {
 
-// One object (or array) of a parsed document, read as the library reads it:
-// children are the nested objects and arrays, string attributes the string
-// values (and the strings of an array, with empty names), numeric attributes the
-// numbers, booleans kept apart. Keys keep the order of the text.
+/// One object (or array) of a parsed document, read as the library reads it:
+/// children are the nested objects and arrays, string attributes the string
+/// values (and the strings of an array, with empty names), numeric attributes the
+/// numbers, booleans kept apart. Keys keep the order of the text.
 class Element : public iObject {
 public:
+    /// A number of the object, by its key.
     struct NumericAttrib {
         LightweightString<char> name;
         double value = 0.0;
     };
+    /// A string of the object, by its key (empty for a string of an array).
     struct StringAttrib {
         LightweightString<char> name;
         LightweightString<char> value;

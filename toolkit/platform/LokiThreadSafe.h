@@ -10,8 +10,8 @@
 namespace Loki {
 namespace ThreadSafetyTraits {
 
-// The holder checks its instance pointer before taking the lock; a plain volatile
-// pointer makes that check a data race, so the pointer is atomic.
+/// The holder checks its instance pointer before taking the lock; a plain volatile
+/// pointer makes that check a data race, so the pointer is atomic.
 template <class Host>
 class AtomicValue {
 public:
@@ -26,9 +26,12 @@ private:
     std::atomic<Host> value_;
 };
 
+/// The policy itself: one recursive mutex per singleton type, taken while the
+/// holder makes the instance.
 template <class Host, class MutexPolicy = std::mutex>
 class ThreadSafe {
 public:
+    /// Holds the policy's mutex for its scope.
     class Lock {
     public:
         Lock() { mutex().lock(); }

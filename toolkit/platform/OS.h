@@ -8,6 +8,7 @@
 #include <vector>
 
 namespace iFileManager {
+/// One entry of a folder: its name, whether it is a folder, its size and its time of change.
 struct DirectoryItem {
     LightweightString<wchar_t> name;
     bool isFolder = false;
@@ -16,7 +17,7 @@ struct DirectoryItem {
 };
 } // namespace iFileManager
 
-// The operating layer: counting, folders, files, the shell and the clipboard.
+/// The operating layer: counting, folders, files, the shell and the clipboard.
 class OSServices {
 public:
     int atomicIncrement(std::atomic<int>& n) { return ++n; }

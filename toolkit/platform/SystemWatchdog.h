@@ -2,10 +2,10 @@
 
 #include <cstdint>
 
-// Watches that the user-interface thread stays responsive. A long task on that
-// thread beats the heart as it goes; a task that knows it will be long puts the
-// watchdog on life support, so that a missing beat during it is not a hang.
-// Every operation is safe from any thread.
+/// Watches that the user-interface thread stays responsive. A long task on that
+/// thread beats the heart as it goes; a task that knows it will be long puts the
+/// watchdog on life support, so that a missing beat during it is not a hang.
+/// Every operation is safe from any thread.
 class SystemWatchdog {
 public:
     static void heartbeat();

@@ -4,9 +4,9 @@
 
 #include <vector>
 
-// A text file as lines: read whole, appended to, and saved whole. Saving writes a
-// temporary file beside the target and renames it over the old one, so a crash
-// mid-save leaves the old file as it was.
+/// A text file as lines: read whole, appended to, and saved whole. Saving writes a
+/// temporary file beside the target and renames it over the old one, so a crash
+/// mid-save leaves the old file as it was.
 class TextFile {
 public:
     // 0: the platform's line ending (LF here), 1: LF, 2: CR LF.

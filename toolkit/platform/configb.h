@@ -6,8 +6,8 @@
 #include <utility>
 #include <vector>
 
-// A flat store of string-keyed entries, in the order they were first set.
-// Setting a key tells the owner, if any, that it has changed.
+/// A flat store of string-keyed entries, in the order they were first set.
+/// Setting a key tells the owner, if any, that it has changed.
 class configb {
 public:
     explicit configb(Dirtiable* owner = nullptr) : owner_(owner) {}

@@ -8,7 +8,7 @@ namespace JSON {
 class Builder;
 class Element;
 
-// An object that writes itself into a JSON builder and reads itself from an element.
+/// An object that writes itself into a JSON builder and reads itself from an element.
 class iPersistable : public virtual iObject {
 public:
     virtual void write(Builder& b) const = 0;

@@ -4,14 +4,14 @@
 
 #include <vector>
 
-// What a log row of kind otHyperLink points at: one or more targets and the text
-// shown for them. The string form kept in a log item is, in the simple case, the
-// target alone: a bare path or web address is a link to itself. A link to a panel
-// of the application ("internal") has as first target a JSON object, the text
-// that describes the panel, and so begins with '{'. Links with several targets
-// or with a description of their own are written as a JSON envelope:
-// {"hyperlink":{"description":"...","targets":["...", ...]}}.
-// Targets are kept as they are, "|" and "," included.
+/// What a log row of kind otHyperLink points at: one or more targets and the text
+/// shown for them. The string form kept in a log item is, in the simple case, the
+/// target alone: a bare path or web address is a link to itself. A link to a panel
+/// of the application ("internal") has as first target a JSON object, the text
+/// that describes the panel, and so begins with '{'. Links with several targets
+/// or with a description of their own are written as a JSON envelope:
+/// {"hyperlink":{"description":"...","targets":["...", ...]}}.
+/// Targets are kept as they are, "|" and "," included.
 class LoggerBase::HyperLink {
 public:
     HyperLink() = default;

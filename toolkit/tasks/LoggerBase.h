@@ -7,10 +7,10 @@
 #include <atomic>
 #include <cstdint>
 
-// The base of everything that receives log text and progress: task logs, log
-// panels, progress panels. Its own operations do nothing but keep the indent
-// level, so a receiver overrides only what it shows; text written to a bare
-// LoggerBase is lost. The indent level may be changed from any thread.
+/// The base of everything that receives log text and progress: task logs, log
+/// panels, progress panels. Its own operations do nothing but keep the indent
+/// level, so a receiver overrides only what it shows; text written to a bare
+/// LoggerBase is lost. The indent level may be changed from any thread.
 class LoggerBase : public ProgressReportClient {
 public:
     // The kind of a log item. Values past otSuccess are accepted and shown as otNormal.

@@ -8,11 +8,11 @@
 
 #include <vector>
 
-// The receiver of a long task's progress. A task reports the fraction done of
-// the sub-task it is in; this class maps that through the nested sub-tasks to a
-// fraction of the whole task and hands a snapshot to handleProgressUpdate, which
-// a display overrides. The call is synchronous, on the reporting thread, made
-// outside the lock that guards the sub-tasks, so a display may report again.
+/// The receiver of a long task's progress. A task reports the fraction done of
+/// the sub-task it is in; this class maps that through the nested sub-tasks to a
+/// fraction of the whole task and hands a snapshot to handleProgressUpdate, which
+/// a display overrides. The call is synchronous, on the reporting thread, made
+/// outside the lock that guards the sub-tasks, so a display may report again.
 class ProgressReportClient {
 public:
     // One report: the fraction done of the whole task, what is being done, and a

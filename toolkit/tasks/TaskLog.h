@@ -6,13 +6,13 @@
 
 #include <vector>
 
-// The platform's task log: items and progress from any thread. Notices are sent
-// synchronously on the writing thread, under the log's lock, so every listener
-// hears the items once each and in the order the log holds them; a listener
-// that lives on the user-interface thread registers a UIThreadCallback, which
-// carries the notice over, and must not block. Releasing a guard stops delivery
-// at once: once release() has returned no further notice starts on that
-// registration.
+/// The platform's task log: items and progress from any thread. Notices are sent
+/// synchronously on the writing thread, under the log's lock, so every listener
+/// hears the items once each and in the order the log holds them; a listener
+/// that lives on the user-interface thread registers a UIThreadCallback, which
+/// carries the notice over, and must not block. Releasing a guard stops delivery
+/// at once: once release() has returned no further notice starts on that
+/// registration.
 class TaskLog : public iTaskLog {
 public:
     // The names of the notices.

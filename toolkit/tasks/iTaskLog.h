@@ -7,10 +7,10 @@
 
 #include <vector>
 
-// A log that tasks write to from any thread and that panels show. The log holds
-// the items; a panel opened later replays them with getItems. Listeners hear of
-// each new item, or each progress report, by a NotifyMsg whose payload is a
-// LoggerBase::Item or a ProgressSnapshot.
+/// A log that tasks write to from any thread and that panels show. The log holds
+/// the items; a panel opened later replays them with getItems. Listeners hear of
+/// each new item, or each progress report, by a NotifyMsg whose payload is a
+/// LoggerBase::Item or a ProgressSnapshot.
 class iTaskLog : public LoggerBase, public virtual iObject {
 public:
     // The kinds of registerInterest.

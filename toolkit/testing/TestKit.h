@@ -67,20 +67,20 @@ int countPixels(const iHostImage& picture, const BoxInt& box, const Colour& colo
 // Writes the screen to NAME.png in the output folder; returns the path.
 LightweightString<char> saveScreen(const char* name);
 
-// A fixture that leaves the screen empty for the next test.
+/// A fixture that leaves the screen empty for the next test.
 class ScreenTest : public ::testing::Test {
 protected:
     void TearDown() override { reset(); }
 };
-// A program run by a test: its exit status (-1 when it did not exit) and what it
-// wrote on standard output.
+/// A program run by a test: its exit status (-1 when it did not exit) and what it
+/// wrote on standard output.
 struct ProgramRun {
     int status = -1;
     std::string output;
 };
 ProgramRun runProgram(const std::string& commandLine);
 
-// Owns a top-level glob for the length of a test.
+/// Owns a top-level glob for the length of a test.
 template <class T>
 class Owned {
 public:

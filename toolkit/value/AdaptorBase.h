@@ -6,8 +6,8 @@
 
 class WidgetBase;
 
-// The data source of a set of widgets. The widgets are not owned: each leaves the
-// set as it dies or takes another adaptor.
+/// The data source of a set of widgets. The widgets are not owned: each leaves the
+/// set as it dies or takes another adaptor.
 class AdaptorBase : public iObject {
 public:
     void addWidget(WidgetBase* w) {

@@ -4,8 +4,8 @@
 #include "core/Ptr.h"
 #include "core/iCallbackBase.h"
 
-// One registration with a notifier: the type of notice it wants. A record that is
-// released while its notifier delivers is only marked, and leaves the list after.
+/// One registration with a notifier: the type of notice it wants. A record that is
+/// released while its notifier delivers is only marked, and leaves the list after.
 class CallbackInvokerBase : public DLListRec {
 public:
     explicit CallbackInvokerBase(int type) : type_(type) {}
@@ -21,7 +21,7 @@ private:
     bool released_ = false;
 };
 
-// A registration that calls back with events of type E.
+/// A registration that calls back with events of type E.
 template <class E>
 class CallbackInvoker : public CallbackInvokerBase {
 public:

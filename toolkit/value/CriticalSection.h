@@ -2,8 +2,8 @@
 
 #include <mutex>
 
-// A lock that the thread holding it may take again: a notifier's callbacks may
-// register or issue on the same notifier while it delivers.
+/// A lock that the thread holding it may take again: a notifier's callbacks may
+/// register or issue on the same notifier while it delivers.
 class CriticalSection {
 public:
     void enter() { m_.lock(); }

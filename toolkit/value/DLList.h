@@ -3,7 +3,7 @@
 #include <atomic>
 #include <cstddef>
 
-// A record of a DLList: derive from it to put an object in a list.
+/// A record of a DLList: derive from it to put an object in a list.
 class DLListRec {
 public:
     DLListRec() = default;
@@ -20,9 +20,9 @@ private:
     DLListRec* next_ = nullptr;
 };
 
-// An intrusive doubly-linked list, in order of appending. Whether it deletes its
-// records when they leave it is the owner's choice. The size may be read from any
-// thread without a lock: a notifier with no registrations looks at nothing else.
+/// An intrusive doubly-linked list, in order of appending. Whether it deletes its
+/// records when they leave it is the owner's choice. The size may be read from any
+/// thread without a lock: a notifier with no registrations looks at nothing else.
 class DLList {
 public:
     using ApplyFn = void (*)(DLListRec* record, void* data);

@@ -8,9 +8,9 @@
 #include <limits>
 #include <type_traits>
 
-// Conversions between the value types of the binding: bool, int, unsigned int,
-// double, wide text, and a colour's text form. Nothing fails: text that is no
-// number gives 0, a number out of range the nearest one that fits, NaN 0.
+/// Conversions between the value types of the binding: bool, int, unsigned int,
+/// double, wide text, and a colour's text form. Nothing fails: text that is no
+/// number gives 0, a number out of range the nearest one that fits, NaN 0.
 class DataConvert {
 public:
     template <class A, class B>

@@ -1,6 +1,6 @@
 #pragma once
 
-// A count of reasons to be deaf: notices reach a client only while it is below 1.
+/// A count of reasons to be deaf: notices reach a client only while it is below 1.
 class EnableDisable {
 public:
     virtual ~EnableDisable() = default;

@@ -3,8 +3,8 @@
 #include "core/iCallbackBase.h"
 #include "glob/EventHandler.h"
 
-// A check that a handler still lives: 1 while the object with the stamp taken at
-// construction lives, 0 after. Safe on a dead handler.
+/// A check that a handler still lives: 1 while the object with the stamp taken at
+/// construction lives, 0 after. Safe on a dead handler.
 template <class E>
 class EventHandlerExistenceCheck : public iCallbackBase<int, E> {
 public:

@@ -2,8 +2,8 @@
 
 #include "NotifierBase.h"
 
-// A notifier of events of type E. Delivery is synchronous, on the issuing thread,
-// under the notifier's lock.
+/// A notifier of events of type E. Delivery is synchronous, on the issuing thread,
+/// under the notifier's lock.
 template <class E>
 class GenericNotifier : public NotifierBase {
 public:

@@ -7,10 +7,10 @@
 
 #include <memory>
 
-// The registrations of a notifier, in order, under its lock. A registration lasts
-// as long as the guard it returns is held; a guard that outlives the notifier is
-// harmless. Delivery may nest on one thread: a callback may register, release, or
-// issue again on the same notifier, but not destroy it.
+/// The registrations of a notifier, in order, under its lock. A registration lasts
+/// as long as the guard it returns is held; a guard that outlives the notifier is
+/// harmless. Delivery may nest on one thread: a callback may register, release, or
+/// issue again on the same notifier, but not destroy it.
 class NotifierBase {
 public:
     NotifierBase();

@@ -3,7 +3,7 @@
 template <class T>
 class ValServer;
 
-// The notice of a value server: its type, the value at the time, and the server.
+/// The notice of a value server: its type, the value at the time, and the server.
 template <class T>
 struct NotifierEvent {
     int type = 0;

@@ -3,7 +3,7 @@
 #include "GenericNotifier.h"
 #include "NotifierEvent.h"
 
-// The notifier of a value server: fills in the type and the sender of each notice.
+/// The notifier of a value server: fills in the type and the sender of each notice.
 template <class T>
 class NotifierEx : public GenericNotifier<NotifierEvent<T>> {
 public:

@@ -2,7 +2,7 @@
 
 #include "core/LightweightString.h"
 
-// The table of notice types: each name gets a number once, for the process's life.
+/// The table of notice types: each name gets a number once, for the process's life.
 class NotifyMsgTypeDictionary {
 public:
     static NotifyMsgTypeDictionary& instance();

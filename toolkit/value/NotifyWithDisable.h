@@ -2,8 +2,8 @@
 
 #include "Notifier.h"
 
-// A notifier that others reach through getNotify(), so that a class can hand out
-// a notifier of its own choosing.
+/// A notifier that others reach through getNotify(), so that a class can hand out
+/// a notifier of its own choosing.
 class NotifyWithDisable : public Notifier {
 public:
     virtual NotifyWithDisable* getNotify() { return this; }

@@ -5,11 +5,11 @@
 #include "core/NotifyMsg.h"
 #include "glob/Messaging.h"
 
-// Hands a call over to the user-interface thread. On that thread, unless told to
-// always defer, it calls the target at once; from any other thread it posts the
-// event to itself and calls the target when the loop delivers it, after the
-// current event. A caller check runs before anything; a UI-thread check runs just
-// before the target is called, on the UI thread.
+/// Hands a call over to the user-interface thread. On that thread, unless told to
+/// always defer, it calls the target at once; from any other thread it posts the
+/// event to itself and calls the target when the loop delivers it, after the
+/// current event. A caller check runs before anything; a UI-thread check runs just
+/// before the target is called, on the UI thread.
 template <class E>
 class UIThreadCallback : public iCallbackBase<int, E>, private EventHandler {
 public:

@@ -5,9 +5,9 @@
 #include "ValClient.h"
 #include "ValWidget.h"
 
-// Binds widgets showing a T to a server holding a U, converting both ways with
-// DataConvert: a double widget on an int server truncates, text widgets on numbers
-// format and parse. Held by its widgets through Zn::Ptr.
+/// Binds widgets showing a T to a server holding a U, converting both ways with
+/// DataConvert: a double widget on an int server truncates, text widgets on numbers
+/// format and parse. Held by its widgets through Zn::Ptr.
 template <class T, class U>
 class ValAdaptor : public ValAdaptorBase<T>, public ValClient<U> {
 public:

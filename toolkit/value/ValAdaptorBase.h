@@ -10,8 +10,8 @@
 template <class T>
 class ValWidget;
 
-// The data source of widgets that show a T: gives the value, takes the widgets'
-// requests to change it, and tells them when it has changed.
+/// The data source of widgets that show a T: gives the value, takes the widgets'
+/// requests to change it, and tells them when it has changed.
 template <class T>
 class ValAdaptorBase : public AdaptorBase {
 public:

@@ -4,8 +4,8 @@
 #include "ValServer.h"
 #include "core/MethodCallback.h"
 
-// One party interested in a value server: hears of its changes, reads it and
-// writes it. A client outlives its server safely: it then has none.
+/// One party interested in a value server: hears of its changes, reads it and
+/// writes it. A client outlives its server safely: it then has none.
 template <class T>
 class ValClient : public EnableDisable {
 public:

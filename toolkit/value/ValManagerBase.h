@@ -5,7 +5,7 @@
 template <class T>
 class ValServer;
 
-// The manager of a value server: sees every value before it is stored.
+/// The manager of a value server: sees every value before it is stored.
 template <class T>
 class ValManagerBase : public NotifyWithDisable {
 public:

@@ -13,10 +13,10 @@
 
 #include <mutex>
 
-// The one place a value lives. Writing it asks the manager, if any, stores the
-// value and notifies every client in order of registration, on the writer's thread
-// and under the notifier's lock. There is no test for an unchanged value: every
-// assignment notifies.
+/// The one place a value lives. Writing it asks the manager, if any, stores the
+/// value and notifies every client in order of registration, on the writer's thread
+/// and under the notifier's lock. There is no test for an unchanged value: every
+/// assignment notifies.
 template <class T>
 class ValServer : public NotifierEx<T>, public ValServerBase, private LastValServer {
 public:

@@ -3,8 +3,8 @@
 #include "DLList.h"
 #include "core/iObject.h"
 
-// What servers of every value type share, so that they can be listed together and
-// told to notify.
+/// What servers of every value type share, so that they can be listed together and
+/// told to notify.
 class ValServerBase : public DLListRec, public iObject {
 public:
     virtual void notifyValChanged() = 0;

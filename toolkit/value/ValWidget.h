@@ -3,10 +3,10 @@
 #include "ValAdaptorBase.h"
 #include "WidgetBase.h"
 
-// A widget that shows a value of type T held elsewhere. Code that handles the
-// user's input calls requestSetNewDataValue; code that shows a value implements
-// setNewWidgetValue and never asks for a change from there. Keeping the two apart
-// is what ends the round trip of a change.
+/// A widget that shows a value of type T held elsewhere. Code that handles the
+/// user's input calls requestSetNewDataValue; code that shows a value implements
+/// setNewWidgetValue and never asks for a change from there. Keeping the two apart
+/// is what ends the round trip of a change.
 template <class T>
 class ValWidget : public WidgetBase {
 public:

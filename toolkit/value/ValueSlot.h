@@ -6,13 +6,14 @@
 #include <mutex>
 #include <type_traits>
 
-// Where a value server keeps its value so that any thread may write it. A value
-// that fits a lock-free atomic is stored without the lock, so an assignment to a
-// server with no clients costs next to nothing; any other value is read and
-// written under the notifier's lock.
+/// Whether a T fits a lock-free atomic.
 template <class T>
 struct LockFreeAtomic : std::bool_constant<std::atomic<T>::is_always_lock_free> {};
 
+/// Where a value server keeps its value so that any thread may write it. A value
+/// that fits a lock-free atomic is stored without the lock, so an assignment to a
+/// server with no clients costs next to nothing; any other value is read and
+/// written under the notifier's lock.
 template <class T, bool = std::conjunction_v<std::is_trivially_copyable<T>, LockFreeAtomic<T>>>
 class ValueSlot {
 public:
@@ -24,6 +25,7 @@ private:
     std::atomic<T> v_;
 };
 
+/// A value that is not lock-free, read and written under the notifier's lock.
 template <class T>
 class ValueSlot<T, false> {
 public:

@@ -3,8 +3,8 @@
 #include "AdaptorBase.h"
 #include "core/Ptr.h"
 
-// The widget side of a binding: holds its adaptor and is in the adaptor's set of
-// widgets for as long as it lives.
+/// The widget side of a binding: holds its adaptor and is in the adaptor's set of
+/// widgets for as long as it lives.
 class WidgetBase {
 public:
     WidgetBase() = default;
