@@ -2,11 +2,11 @@
 // included), painting the built panel from scratch, and one user change on a panel
 // with many post-conditions, from the control's request to the last listener.
 #include "controls/Checkbox.h"
+#include "controls/StandardPanel.h"
 #include "core/FunctionCallback.h"
+#include "draw/UifStd.h"
 #include "glob/Glob.h"
 #include "glob/GlobManager.h"
-#include "glob/StandardPanel.h"
-#include "glob/UifStd.h"
 #include "params/UIBuilderParams.h"
 
 #include <benchmark/benchmark.h>

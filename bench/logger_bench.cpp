@@ -5,8 +5,8 @@
 #include "logging/Logger.h"
 
 #include "controls/TableWidget.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/UifStd.h"
 #include "tasks/TaskLog.h"
 
 #include <benchmark/benchmark.h>

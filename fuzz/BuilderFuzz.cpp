@@ -1,9 +1,9 @@
 // Feeds arbitrary text to the panel builder as a description, paints what it built,
 // then reads the same text as a saved state and restores it into the panel's
 // parameters: bad descriptions and bad states build and restore less, never crash.
+#include "controls/StandardPanel.h"
 #include "core/Utf8.h"
 #include "glob/GlobManager.h"
-#include "glob/StandardPanel.h"
 #include "params/UIBuilderParams.h"
 #include "platform/ConfigbFile.h"
 

@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Checks the layout of the sources and the summaries of the API reference, then
-# builds Mosaic and runs every test: a plain build with warnings as errors, then
-# the same tests under AddressSanitizer with UndefinedBehaviorSanitizer, then under
-# ThreadSanitizer, with each fuzz target run for a minute first. Set MOSAIC_SKIP_SANITIZERS=1
+# builds Mosaic and runs every test: a plain build with warnings as errors and
+# clang-tidy over its sources, then the same tests under AddressSanitizer with
+# UndefinedBehaviorSanitizer, then under ThreadSanitizer, with each fuzz target run
+# for a minute first. Set MOSAIC_SKIP_SANITIZERS=1
 # to run the plain build only.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -30,6 +31,9 @@ cmake --build build --target docs
 
 echo "== plain build =="
 run_suite build -DCMAKE_BUILD_TYPE=RelWithDebInfo
+
+echo "== clang-tidy =="
+bash scripts/run-tidy.sh build
 
 if [ "${MOSAIC_SKIP_SANITIZERS:-0}" != 1 ]; then
   echo "== fuzz targets, 60 seconds each =="

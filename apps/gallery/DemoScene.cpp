@@ -2,11 +2,11 @@
 // kind of position, and text drawn in the default, title and monospace fonts.
 #include "GalleryScene.h"
 
+#include "controls/StandardPanel.h"
 #include "draw/CanvasRenderer.h"
 #include "draw/Screen.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/StandardPanel.h"
-#include "glob/UifStd.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 #include "controls/FileBrowser.h"
 #include "core/Utf8.h"
 #include "draw/Screen.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/UifStd.h"
 
 #include <chrono>
 #include <filesystem>

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "controls/StandardPanel.h"
 #include "core/LightweightString.h"
-#include "glob/StandardPanel.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 
 #include <functional>
 #include <vector>

@@ -8,10 +8,10 @@
 #include "controls/CycleButton.h"
 #include "controls/NumericTextBox.h"
 #include "controls/Slider.h"
+#include "controls/StandardPanel.h"
 #include "draw/Screen.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/StandardPanel.h"
-#include "glob/UifStd.h"
 #include "value/ValAdaptor.h"
 
 #include <array>

@@ -6,14 +6,14 @@
 
 #include "controls/ScrollBar.h"
 #include "controls/ScrollList.h"
+#include "controls/StandardPanel.h"
 #include "controls/TableWidget.h"
 #include "controls/TextLabel.h"
 #include "controls/TreeView.h"
 #include "controls/VerticalScrollingBase.h"
 #include "draw/Screen.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/StandardPanel.h"
-#include "glob/UifStd.h"
 
 #include <map>
 #include <string>

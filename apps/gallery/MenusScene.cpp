@@ -5,12 +5,12 @@
 
 #include "controls/DropDownMenuButton.h"
 #include "controls/Menu.h"
+#include "controls/StandardPanel.h"
 #include "controls/TextLabel.h"
 #include "controls/TitleMenuButton.h"
 #include "draw/Screen.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/StandardPanel.h"
-#include "glob/UifStd.h"
 #include "value/ValAdaptor.h"
 
 #include <memory>

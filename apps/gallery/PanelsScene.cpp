@@ -12,8 +12,8 @@
 #include "controls/Warn.h"
 #include "controls/WidgetGroup.h"
 #include "draw/Screen.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/UifStd.h"
 
 #include <algorithm>
 #include <string>

@@ -7,9 +7,9 @@
 #include "controls/NumericTextBox.h"
 #include "controls/TitleTextBox.h"
 #include "draw/Screen.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 #include "value/ValAdaptor.h"
 
 namespace {

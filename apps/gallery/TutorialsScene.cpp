@@ -1,12 +1,12 @@
 // The tutorial catalogue of the sample folder shipped with the tests, by category.
 #include "GalleryScene.h"
 
+#include "controls/StandardPanel.h"
 #include "core/Utf8.h"
 #include "draw/CanvasRenderer.h"
 #include "draw/Screen.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/StandardPanel.h"
-#include "glob/UifStd.h"
 #include "tutorials/TutorialsManager.h"
 
 namespace {

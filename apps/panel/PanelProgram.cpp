@@ -7,7 +7,7 @@
 #include "controls/TitleMenuButton.h"
 #include "controls/TitleTextBox.h"
 #include "core/Utf8.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "params/SliderParamHost.h"
 #include "params/TitledFileChooserButton.h"
 #include "params/TitledGlob.h"

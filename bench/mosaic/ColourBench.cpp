@@ -7,8 +7,8 @@
 #include "colour/HSColourWheel.h"
 #include "colour/HexColourAdaptor.h"
 #include "controls/Button.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/UifStd.h"
 #include "panels/DropDownButtonEx.h"
 #include "value/ValAdaptor.h"
 

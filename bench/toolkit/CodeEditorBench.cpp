@@ -2,8 +2,8 @@
 // and of 10,000 lines: only the lines in view are laid out and painted, so the
 // long text costs little more than the short one.
 #include "controls/CodeEditor.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/UifStd.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,7 +1,7 @@
 // Compositing a full-HD screen of ten top-level panels.
+#include "controls/StandardPanel.h"
 #include "draw/Screen.h"
 #include "glob/GlobManager.h"
-#include "glob/StandardPanel.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,7 +1,7 @@
 // Posting messages from a worker thread and delivering them on the UI thread.
+#include "controls/StandardPanel.h"
 #include "glob/GlobManager.h"
 #include "glob/Messaging.h"
-#include "glob/StandardPanel.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,5 +1,5 @@
 // Creating and destroying a panel with 100 child globs.
-#include "glob/StandardPanel.h"
+#include "controls/StandardPanel.h"
 
 #include <benchmark/benchmark.h>
 

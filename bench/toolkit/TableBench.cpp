@@ -1,8 +1,8 @@
 // Scrolling a table one page and repainting it, for tables of 100 and of 100,000
 // rows: only the rows in view are asked for and painted, so both cost the same.
 #include "controls/TableWidget.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/UifStd.h"
 
 #include <benchmark/benchmark.h>
 

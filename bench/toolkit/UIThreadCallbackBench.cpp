@@ -1,6 +1,6 @@
 // Handing calls from a worker thread to the UI thread through a deferred callback.
+#include "controls/StandardPanel.h"
 #include "glob/GlobManager.h"
-#include "glob/StandardPanel.h"
 #include "value/UIThreadCallback.h"
 
 #include <benchmark/benchmark.h>

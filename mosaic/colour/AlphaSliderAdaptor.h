@@ -2,7 +2,7 @@
 
 #include "ColourFacetAdaptor.h"
 
-// A colour's alpha for a slider from 0 to 1.
+/// A colour's alpha for a slider from 0 to 1.
 class AlphaSliderAdaptor : public ColourFacetAdaptor<double> {
 public:
     explicit AlphaSliderAdaptor(ValServer<ColourData>* server) : ColourFacetAdaptor(server) {}

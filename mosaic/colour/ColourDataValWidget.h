@@ -3,5 +3,5 @@
 #include "core/ColourData.h"
 #include "value/ValWidget.h"
 
-// The widget side of everything that shows a whole colour (the wheel, the picker).
+/// The widget side of everything that shows a whole colour (the wheel, the picker).
 class ColourDataValWidget : public ValWidget<ColourData> {};

@@ -5,10 +5,10 @@
 #include "value/ValClient.h"
 #include "value/ValWidget.h"
 
-// What the colour adaptors share: each shows one facet of a colour held in a
-// ValServer<ColourData> to widgets of type T, and folds a widget's change of that
-// facet back into the whole colour. A change of the colour, whoever made it,
-// refreshes the widgets at once.
+/// What the colour adaptors share: each shows one facet of a colour held in a
+/// ValServer<ColourData> to widgets of type T, and folds a widget's change of that
+/// facet back into the whole colour. A change of the colour, whoever made it,
+/// refreshes the widgets at once.
 template <class T>
 class ColourFacetAdaptor : public ValAdaptorBase<T>, public ValClient<ColourData> {
 public:

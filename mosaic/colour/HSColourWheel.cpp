@@ -2,7 +2,7 @@
 
 #include "core/rad.h"
 #include "draw/CanvasRenderer.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "image/HostImage.h"
 #include "platform/Configuration.h"
 #include "value/DataConvert.h"

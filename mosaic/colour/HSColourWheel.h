@@ -1,21 +1,22 @@
 #pragma once
 
 #include "ColourDataValWidget.h"
+#include "controls/StandardPanel.h"
 #include "core/NormalisedRGB.h"
-#include "glob/StandardPanel.h"
 #include "image/iHostImage.h"
 
-// A round hue-saturation chooser: the angle on the disc is hue, the distance from
-// the centre saturation, and a small ring marks the bound colour. Drag the marker
-// (left or right button, or a chord anywhere in the chord area), or click beside it
-// to reset to the centre. Bound like any value widget: the colour goes to the
-// adaptor, and what comes back moves the marker.
-//
-// The disc's picture is costly, so it is kept by each wheel and once more for all
-// wheels: a wheel of the size and background of the last picture built shares it.
-// Everything here belongs to the user-interface thread.
+/// A round hue-saturation chooser: the angle on the disc is hue, the distance from
+/// the centre saturation, and a small ring marks the bound colour. Drag the marker
+/// (left or right button, or a chord anywhere in the chord area), or click beside it
+/// to reset to the centre. Bound like any value widget: the colour goes to the
+/// adaptor, and what comes back moves the marker.
+///
+/// The disc's picture is costly, so it is kept by each wheel and once more for all
+/// wheels: a wheel of the size and background of the last picture built shares it.
+/// Everything here belongs to the user-interface thread.
 class HSColourWheel : public StandardPanel, public ColourDataValWidget {
 public:
+    /// What an HSColourWheel is made from: a panel's record.
     struct InitArgs : StandardPanel::InitArgs {
         using StandardPanel::InitArgs::InitArgs;
     };

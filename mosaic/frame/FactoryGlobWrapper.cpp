@@ -11,7 +11,7 @@ FactoryGlobWrapper::FactoryGlobWrapper(const StandardPanel::InitArgs& args) : St
     GlobCreationInfo info;
     {
         Glib::StateSaver saver;
-        info = args;
+        info = static_cast<const GlobCreationInfo&>(args);
         info.canvas = canvas();
         info.width = width();
         info.height = height();
@@ -40,7 +40,7 @@ XY<int> FactoryGlobWrapper::getMinSize() const { return glob_ ? glob_->getMinSiz
 
 void FactoryGlobWrapper::drawBackground() {
     if (!glob_) {
-        Glob::drawBackground();
+        CanvasRenderer(canvas()).fill(getPalette().window());
         return;
     }
     int mx = static_cast<int>(std::ceil((width() - glob_->width()) * 0.5));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "glob/StandardPanel.h"
+#include "controls/StandardPanel.h"
 
 /// A panel around a glob made by kind name through GlobManager::createGlob, centred
 /// inside it. When the kind cannot be made the wrapper stays an empty panel that

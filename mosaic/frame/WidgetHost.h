@@ -1,6 +1,6 @@
 #pragma once
 
-#include "glob/StandardPanel.h"
+#include "controls/StandardPanel.h"
 
 /// A panel that hosts a child and adds nothing but its name: the base of hosts
 /// such as the slider row and the occluded hosts.

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "ProgInd.h"
-#include "core/UIString.h"
 #include "frame/GlobHandle.h"
+#include "platform/UIString.h"
 
 #include <cstdint>
 

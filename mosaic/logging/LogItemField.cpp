@@ -5,8 +5,8 @@
 #include "draw/CanvasRenderer.h"
 #include "draw/HTMLRenderer.h"
 #include "draw/TextStyle.h"
+#include "draw/UifStd.h"
 #include "draw/WordWrappingTextRenderer.h"
-#include "glob/UifStd.h"
 
 #include <algorithm>
 

@@ -2,10 +2,10 @@
 
 #include "LoggedItem.h"
 #include "controls/PushButton.h"
+#include "controls/StandardPanel.h"
 #include "controls/iTableAdaptor.h"
 #include "core/Guard.h"
 #include "core/NotifyMsg.h"
-#include "glob/StandardPanel.h"
 #include "tasks/iTaskLog.h"
 
 #include <vector>

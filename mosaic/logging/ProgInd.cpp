@@ -2,9 +2,9 @@
 
 #include "ProgressTime.h"
 #include "draw/StateSaver.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 #include "glob/glib_getPosForWindow.h"
 #include "platform/Clock.h"
 #include "value/valEqualsVal.h"

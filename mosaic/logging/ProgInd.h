@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/Gauge.h"
-#include "glob/StandardPanel.h"
+#include "controls/StandardPanel.h"
 #include "tasks/ProgressReportClient.h"
 
 #include <cstdint>

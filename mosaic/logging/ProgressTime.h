@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/LightweightString.h"
-#include "core/UIString.h"
+#include "platform/UIString.h"
 
 // The arithmetic and wording of the time a task has taken or has left, shared by
 // the progress displays.

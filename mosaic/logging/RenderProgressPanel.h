@@ -1,8 +1,8 @@
 #pragma once
 
 #include "controls/Gauge.h"
+#include "controls/StandardPanel.h"
 #include "draw/VideoWindow.h"
-#include "glob/StandardPanel.h"
 #include "image/AspectRatio.h"
 #include "tasks/LoggerBase.h"
 

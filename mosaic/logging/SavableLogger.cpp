@@ -2,8 +2,8 @@
 
 #include "LogFileFormat.h"
 #include "controls/Message.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/UifStd.h"
 #include "glob/makeTopLevel.h"
 #include "platform/CommandRegistrar.h"
 #include "platform/FilespecUtils.h"

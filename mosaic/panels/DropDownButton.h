@@ -3,21 +3,21 @@
 #include "controls/Button.h"
 #include "controls/DropDownButtonInitArgs.h"
 #include "draw/CanvasRenderer.h"
+#include "draw/UifStd.h"
 #include "frame/GlobHandle.h"
 #include "glob/GlobManager.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 #include "glob/fireCallback.h"
 
-// A button that opens a widget of type T beside itself when pressed and knows when
-// that widget has gone. The widget belongs to the GlobManager once it stands; the
-// button keeps only a checked handle to it. The widget's end always arrives as
-// "menu_poot" (from the widget or from the toolkit's dismissal of a modal panel),
-// and the button comes up again.
-//
-// A latching button opens the widget as it goes down and closes it as it comes up.
-// A button that does not latch goes down as the widget opens and stays down until
-// the widget has gone; a second click asks it to go (handleSecondClick).
+/// A button that opens a widget of type T beside itself when pressed and knows when
+/// that widget has gone. The widget belongs to the GlobManager once it stands; the
+/// button keeps only a checked handle to it. The widget's end always arrives as
+/// "menu_poot" (from the widget or from the toolkit's dismissal of a modal panel),
+/// and the button comes up again.
+///
+/// A latching button opens the widget as it goes down and closes it as it comes up.
+/// A button that does not latch goes down as the widget opens and stays down until
+/// the widget has gone; a second click asks it to go (handleSecondClick).
 template <class T>
 class DropDownButton : public Button {
 public:

@@ -4,16 +4,17 @@
 #include "DropDownWidgetWithDtorNotify.h"
 #include "calcDropDownPos.h"
 
-// A drop-down button that makes its widget from a stored T::InitArgs and lets it
-// be torn off. Drop modes: kPlainDrop; kDetachableDrop, the widget can be torn off
-// and lives on by itself (the button then forgets it and can open another);
-// kMovableDrop, the widget is a movable panel from the start, not modal, and the
-// button does not latch. The button's parent hears "ddBtnClickMsg" (at once)
-// before the widget opens, and every message the widget sends the button.
-// The widget opens below the button, or above it where there is no room below.
+/// A drop-down button that makes its widget from a stored T::InitArgs and lets it
+/// be torn off. Drop modes: kPlainDrop; kDetachableDrop, the widget can be torn off
+/// and lives on by itself (the button then forgets it and can open another);
+/// kMovableDrop, the widget is a movable panel from the start, not modal, and the
+/// button does not latch. The button's parent hears "ddBtnClickMsg" (at once)
+/// before the widget opens, and every message the widget sends the button.
+/// The widget opens below the button, or above it where there is no room below.
 template <class T>
 class DropDownButtonEx : public DropDownButton<T> {
 public:
+    /// What a DropDownButtonEx is made from: a button's record and the record of the widget it drops down.
     struct InitArgs : DropDownButtonInitArgs {
         typename T::InitArgs dropDownArgs;
         InitArgs() = default;

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "controls/StandardPanel.h"
 #include "draw/CanvasRenderer.h"
+#include "draw/UifStd.h"
 #include "frame/GlobHandle.h"
 #include "glob/GlobManager.h"
 #include "glob/InputDispatcher.h"
 #include "glob/Messaging.h"
-#include "glob/StandardPanel.h"
-#include "glob/UifStd.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,10 +15,10 @@
 template <class T>
 class DropDownButtonEx;
 
-// The widget a DropDownButtonEx<T> opens: a T that tells its button when it goes
-// ("menu_poot", posted; not once torn off or when the button has heard it), and that can be torn off: dragged further than a row's
-// height, a detachable widget leaves its button ("detach", at once) and goes on as
-// a free panel that follows the pointer until the button is released.
+/// The widget a DropDownButtonEx<T> opens: a T that tells its button when it goes
+/// ("menu_poot", posted; not once torn off or when the button has heard it), and that can be torn off: dragged further than a row's
+/// height, a detachable widget leaves its button ("detach", at once) and goes on as
+/// a free panel that follows the pointer until the button is released.
 template <class T>
 class DropDownWidgetWithDtorNotify : public T {
     static_assert(std::is_base_of_v<StandardPanel, T>, "a dropped widget is a panel");

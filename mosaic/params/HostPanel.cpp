@@ -1,6 +1,6 @@
 #include "HostPanel.h"
 
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "glob/makeTopLevel.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "UIBuilderParams.h"
-#include "glob/StandardPanel.h"
+#include "controls/StandardPanel.h"
 
 /// A window of its own that shows a panel built from a description or a list of
 /// parameters, titled "Output": how a developer tries a description. It keeps the

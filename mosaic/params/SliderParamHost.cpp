@@ -6,7 +6,7 @@ void SliderParamHost::resize(double w, double h) {
 }
 
 void SliderParamHost::setActive(bool active, eRedrawFlag flag) {
-    for (unsigned short i = 0; i < numChildren(); ++i)
-        if (Glob* child = getWidget(i).child) child->setActive(active, kNoRedraw);
+    for (Glob* child : getChildren())
+        if (child) child->setActive(active, kNoRedraw);
     if (flag == kRedraw) redraw();
 }

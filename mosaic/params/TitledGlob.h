@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/TitleGlob.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "glob/WidgetSurround.h"
 
 #include <algorithm>

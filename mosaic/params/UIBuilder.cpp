@@ -10,8 +10,8 @@
 #include "controls/VerticalScrollingBase.h"
 #include "core/MethodCallback.h"
 #include "core/Utf8.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/UifStd.h"
 #include "platform/Configuration.h"
 
 #include "TitledGlob.h"

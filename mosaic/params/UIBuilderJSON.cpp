@@ -9,7 +9,7 @@
 #include "controls/TextLabel.h"
 #include "controls/VerticalScrollingBase.h"
 #include "core/Utf8.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "platform/JSON.h"
 #include "value/DataConvert.h"
 

@@ -15,7 +15,7 @@
 #include "controls/VerticalScrollingBase.h"
 #include "core/Utf8.h"
 #include "draw/HTMLRenderer.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "value/ValAdaptor.h"
 
 #include <algorithm>

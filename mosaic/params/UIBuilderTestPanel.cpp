@@ -2,7 +2,7 @@
 
 #include "controls/CodeEditor.h"
 #include "controls/PushButton.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "glob/makeTopLevel.h"
 #include "platform/CommandRegistrar.h"
 #include "platform/JSON.h"

@@ -2,9 +2,9 @@
 
 #include "AttribValuePair.h"
 #include "core/Ptr.h"
-#include "core/UIString.h"
 #include "iValueChangeHandler.h"
 #include "iValueConstraint.h"
+#include "platform/UIString.h"
 
 namespace GenericParam {
 

@@ -1,5 +1,5 @@
 // mosaic-gallery run headless on a command it opens by name.
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "image/HostImage.h"
 #include "testing/TestKit.h"
 

@@ -1,8 +1,8 @@
 // A program outside the tree that links the installed libraries, to check that the
 // installed headers, CMake package and pkg-config file are complete.
 #include "Version.h"
+#include "controls/StandardPanel.h"
 #include "glob/GlobManager.h"
-#include "glob/StandardPanel.h"
 
 #include <cstdio>
 #include <cstring>

@@ -2,8 +2,8 @@
 // and describing the built panel.
 #include "PanelProgram.h"
 
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/UifStd.h"
 #include "params/SliderParamHost.h"
 #include "params/UIBuilderExample.h"
 #include "testing/TestKit.h"

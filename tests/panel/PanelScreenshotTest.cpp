@@ -1,6 +1,6 @@
 // mosaic-panel run on description files: the picture it writes shows every
 // visible row of the panel painted, whatever kinds of row it holds.
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "image/HostImage.h"
 #include "testing/TestKit.h"
 

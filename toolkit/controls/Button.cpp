@@ -3,7 +3,7 @@
 #include "core/enumFromInt.h"
 
 #include "draw/CanvasRenderer.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "glob/fireCallback.h"
 
 Button::Button(const InitArgs& args) : Clickable(args), callback_(args.callback), label_(args.label) { font_ = UifStd::instance().getDefaultFont(); }

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "Clickable.h"
-#include "core/UIString.h"
 #include "core/WidgetCallback.h"
 #include "draw/FontDesc.h"
+#include "platform/UIString.h"
 
 /// A push button with a text label. A click fires its WidgetCallback: the callback
 /// when there is one, otherwise the callback's message to the owner.

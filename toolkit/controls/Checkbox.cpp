@@ -1,7 +1,7 @@
 #include "Checkbox.h"
 
 #include "draw/CanvasRenderer.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "glob/fireCallback.h"
 
 Checkbox::Checkbox(const InitArgs& args) : Clickable(args), label_(args.label), state_(args.state), callback_(args.callback) {

@@ -1,7 +1,7 @@
 #include "Clickable.h"
 
 #include "draw/CanvasRenderer.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 
 int Clickable::react(const Event& e) {
     if (!isActive()) return mouse_event(e) ? 1 : 0;

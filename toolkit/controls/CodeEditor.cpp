@@ -2,7 +2,7 @@
 
 #include "ScrollBar.h"
 #include "draw/CanvasRenderer.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "ColRect.h"
 
 #include "draw/CanvasRenderer.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "glob/fireCallback.h"
 
 #include <algorithm>

@@ -7,8 +7,10 @@
 
 namespace {
 Button::InitArgs buttonArgs(const CycleButton::InitArgs& a) {
+    // The creation record's part of the cycle button's record, and its callback.
+    const GlobCreationInfo& info = a;
     Button::InitArgs b;
-    static_cast<GlobCreationInfo&>(b) = a;
+    static_cast<GlobCreationInfo&>(b) = info;
     b.callback = a.callback;
     return b;
 }

@@ -2,8 +2,8 @@
 
 #include "Menu.h"
 #include "draw/CanvasRenderer.h"
+#include "draw/UifStd.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 #include "glob/fireCallback.h"
 
 #include <algorithm>
@@ -217,7 +217,8 @@ BoxInt DropDownMenuButton::labelBox() const {
 }
 
 void DropDownMenuButton::drawBackground() {
-    Glob::drawBackground();
+    // A face of its own over the plain fill, not the button's.
+    CanvasRenderer(canvas()).fill(getPalette().window());
     const Palette& p = getPalette();
     const BoxInt box(0, 0, width(), height());
     if (isMenuOpen()) {

@@ -1,8 +1,8 @@
 #include "FileBrowser.h"
 
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 #include "glob/makeTopLevel.h"
 #include "platform/ResourceStrings.h"
 

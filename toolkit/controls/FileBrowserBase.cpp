@@ -6,9 +6,9 @@
 #include "WStringEditor.h"
 #include "core/Utf8.h"
 #include "draw/CanvasRenderer.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 #include "platform/OS.h"
 #include "platform/ResourceStrings.h"
 

@@ -1,7 +1,7 @@
 #include "Gauge.h"
 
 #include "draw/CanvasRenderer.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "ImageButton.h"
 
 #include "draw/CanvasRenderer.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "image/IconCache.h"
 
 #include <algorithm>

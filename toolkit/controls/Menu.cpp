@@ -2,10 +2,10 @@
 
 #include "draw/CanvasRenderer.h"
 #include "draw/Screen.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
 #include "glob/InputDispatcher.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 #include "glob/fireCallback.h"
 
 #include <algorithm>
@@ -15,8 +15,10 @@ namespace {
 
 // A menu is always a top-level glob with a canvas of its own, whoever made the record.
 StandardPanel::InitArgs topLevel(const Menu::InitArgs& a) {
+    // Only the creation record's part of the menu's record is wanted.
+    const GlobCreationInfo& info = a;
     StandardPanel::InitArgs s;
-    static_cast<GlobCreationInfo&>(s) = a;
+    static_cast<GlobCreationInfo&>(s) = info;
     s.canvas = nullptr;
     s.isChild = false;
     return s;
@@ -304,8 +306,8 @@ void Menu::paintRow(int row, const BoxInt& box) const {
 
     const double mid = (box.y1 + box.y2) / 2.0;
     if (item.isGap()) {
-        const double y = (box.y1 + box.y2) / 2;
-        r.render(Glib::LineDescription({double(box.x1 + indent), y}, {double(box.x2 - gap - 1), y}, p.window(kShadeDark)));
+        const int y = (box.y1 + box.y2) / 2;
+        r.render(Glib::LineDescription({double(box.x1 + indent), double(y)}, {double(box.x2 - gap - 1), double(y)}, p.window(kShadeDark)));
         return;
     }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "MenuItem.h"
-#include "glob/StandardPanel.h"
+#include "StandardPanel.h"
 
 #include <vector>
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "core/Colour.h"
-#include "core/UIString.h"
 #include "core/WidgetCallback.h"
 #include "draw/FontDesc.h"
+#include "platform/UIString.h"
 
 #include <optional>
 

@@ -3,10 +3,10 @@
 #include "PushButton.h"
 #include "draw/CanvasRenderer.h"
 #include "draw/Screen.h"
+#include "draw/UifStd.h"
 #include "draw/WordWrappingTextRenderer.h"
 #include "glob/GlobManager.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 #include "glob/fireCallback.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "PushButton.h"
 
 #include "draw/CanvasRenderer.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 
 void PushButton::setDefault(bool isDefault) {
     default_ = isDefault;

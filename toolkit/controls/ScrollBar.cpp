@@ -2,9 +2,9 @@
 
 #include "ArrowGlyph.h"
 #include "draw/CanvasRenderer.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 
 #include <algorithm>
 #include <cmath>

@@ -3,8 +3,8 @@
 #include "ScrollBar.h"
 #include "draw/Canvas.h"
 #include "draw/CanvasRenderer.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/UifStd.h"
 #include "glob/fireCallback.h"
 
 #include <algorithm>

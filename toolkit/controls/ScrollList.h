@@ -1,7 +1,7 @@
 #pragma once
 
+#include "StandardPanel.h"
 #include "core/WidgetCallback.h"
-#include "glob/StandardPanel.h"
 
 #include <vector>
 

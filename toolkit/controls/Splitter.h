@@ -1,6 +1,6 @@
 #pragma once
 
-#include "glob/StandardPanel.h"
+#include "StandardPanel.h"
 
 /// The draggable bar between two panes that lie side by side (a vertical bar) or
 /// one above the other (a horizontal bar). The bar and both panes are children of

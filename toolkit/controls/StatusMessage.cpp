@@ -1,8 +1,8 @@
 #include "StatusMessage.h"
 
 #include "PushButton.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/UifStd.h"
 #include "platform/Clock.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/UIString.h"
+#include "StandardPanel.h"
 #include "draw/FontDesc.h"
-#include "glob/StandardPanel.h"
+#include "platform/UIString.h"
 
 #include <vector>
 

@@ -1,6 +1,6 @@
 #include "TableColumnDescription.h"
 
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 
 int TableColumnDescription::textMargin() { return UifStd::instance().getRowGap(); }
 

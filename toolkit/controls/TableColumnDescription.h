@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/Colour.h"
-#include "core/UIString.h"
 #include "draw/FontDesc.h"
+#include "platform/UIString.h"
 
 /// One column of a TableWidget as its adaptor describes it: a title for the header,
 /// a width (0 shares out what the fixed columns leave), whether the user may drag

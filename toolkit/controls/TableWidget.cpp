@@ -4,10 +4,10 @@
 #include "WStringEditor.h"
 #include "draw/Canvas.h"
 #include "draw/CanvasRenderer.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
 #include "glob/InputDispatcher.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 
 #include <algorithm>
 #include <climits>

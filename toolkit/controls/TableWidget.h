@@ -2,7 +2,7 @@
 
 #include "CellContext.h"
 #include "DBFieldTypes.h"
-#include "glob/StandardPanel.h"
+#include "StandardPanel.h"
 #include "iCellEditor.h"
 #include "iTableAdaptor.h"
 

@@ -1,7 +1,7 @@
 #include "TextBox.h"
 
 #include "draw/TextAdvanceCache.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 
 #include <algorithm>
 

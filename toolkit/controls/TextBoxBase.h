@@ -1,9 +1,9 @@
 #pragma once
 
+#include "StandardPanel.h"
 #include "core/WidgetCallback.h"
 #include "draw/GlibDescriptions.h"
 #include "draw/TextLayout.h"
-#include "glob/StandardPanel.h"
 #include "glob/TabOrderManager.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 #include "TextLabel.h"
 
 #include "draw/CanvasRenderer.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 
 TextLabel::TextLabel(const InitArgs& args) : Glob(args), text_(args.text) { setFont(args.font); }
 

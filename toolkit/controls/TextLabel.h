@@ -1,9 +1,9 @@
 #pragma once
 
-#include "core/UIString.h"
 #include "draw/FontDesc.h"
 #include "draw/GlibDescriptions.h"
 #include "glob/Glob.h"
+#include "platform/UIString.h"
 
 /// One line of text that the user reads and does not edit, in the colours of its
 /// palette: the window colour behind, the text colour in front.

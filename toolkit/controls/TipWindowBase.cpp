@@ -2,10 +2,10 @@
 
 #include "draw/CanvasRenderer.h"
 #include "draw/Screen.h"
+#include "draw/UifStd.h"
 #include "draw/WordWrappingTextRenderer.h"
 #include "glob/GlobManager.h"
 #include "glob/InputDispatcher.h"
-#include "glob/UifStd.h"
 #include "platform/Clock.h"
 
 #include <algorithm>

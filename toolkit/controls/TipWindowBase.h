@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/UIString.h"
-#include "glob/StandardPanel.h"
+#include "StandardPanel.h"
 #include "glob/WidgetPosition.h"
+#include "platform/UIString.h"
 
 /// A small window of text that appears beside something on the screen: a
 /// tooltip, a hint, a passing status. As a top-level glob it paints a pale face

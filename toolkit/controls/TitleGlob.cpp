@@ -1,8 +1,8 @@
 #include "TitleGlob.h"
 
 #include "draw/CanvasRenderer.h"
+#include "draw/UifStd.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "core/UIString.h"
+#include "StandardPanel.h"
 #include "draw/FontDesc.h"
 #include "draw/GlibDescriptions.h"
-#include "glob/StandardPanel.h"
+#include "platform/UIString.h"
 
 /// A row of a parameter panel: a legend at the left and a control at the right.
 ///

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "DropDownMenuButton.h"
-#include "glob/StandardPanel.h"
+#include "StandardPanel.h"
 
 /// A title at the left and a drop-down at the right, on one row. The drop-down's
 /// messages (ddBtnClickMsg at once, the rest posted) go on to this widget's owner

@@ -2,7 +2,7 @@
 
 #include "ArrowGlyph.h"
 #include "draw/CanvasRenderer.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "VerticalScrollingBase.h"
 
 #include "ScrollBar.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/UifStd.h"
 
 #include <algorithm>
 #include <cmath>

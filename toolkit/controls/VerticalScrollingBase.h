@@ -1,6 +1,6 @@
 #pragma once
 
-#include "glob/StandardPanel.h"
+#include "StandardPanel.h"
 
 #include <vector>
 

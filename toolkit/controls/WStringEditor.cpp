@@ -2,8 +2,8 @@
 
 #include "TableWidget.h"
 #include "draw/CanvasRenderer.h"
+#include "draw/UifStd.h"
 #include "draw/WordWrappingTextRenderer.h"
-#include "glob/UifStd.h"
 
 #include <algorithm>
 

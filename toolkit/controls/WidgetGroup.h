@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/UIString.h"
+#include "StandardPanel.h"
 #include "draw/FontDesc.h"
-#include "glob/StandardPanel.h"
+#include "platform/UIString.h"
 
 /// A labelled frame around a group of controls. The frame is a thin line a little
 /// inside the group's edges; the legend sits at the top left and breaks the top

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "CellContext.h"
-#include "core/UIString.h"
 #include "core/iObject.h"
 #include "glob/MouseCursor.h"
+#include "platform/UIString.h"
 
 class Event;
 class Glob;

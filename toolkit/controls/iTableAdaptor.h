@@ -50,3 +50,17 @@ public:
     virtual int handleMouseClickEvent(const XY<int>&, const Event&) { return 0; }
     virtual void handleHeaderClick(int) {}
 };
+
+namespace Glib {
+
+// The FontDesc style bits for an iTableAdaptor text style; the link style and every
+// other value are plain, since links are underlined, not restyled.
+inline unsigned mapTextStyle(int tableTextStyle) {
+    switch (tableTextStyle) {
+    case iTableAdaptor::kStyleBold: return FontDesc::kBold;
+    case iTableAdaptor::kStyleItalic: return FontDesc::kItalic;
+    default: return FontDesc::kPlain;
+    }
+}
+
+} // namespace Glib

@@ -1,16 +1,14 @@
 #include "Event.h"
 
-#include "glob/EventHandler.h"
-
 #include <cstdlib>
 
-Event Event::message(const LightweightString<char>& text, EventHandler* sender, const Zn::Ptr<iObject>& payload) {
+Event Event::message(const LightweightString<char>& text, EventHandler* sender, const IdStamp& senderStamp, const Zn::Ptr<iObject>& payload) {
     Event e;
     e.type_ = kMessage;
     e.message_ = text;
     e.payload_ = payload;
     e.sender_ = sender;
-    if (sender) e.senderStamp_ = sender->stamp();
+    e.senderStamp_ = senderStamp;
     return e;
 }
 

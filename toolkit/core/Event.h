@@ -31,7 +31,8 @@ public:
     enum Button : int { kNoButton = 0, kLeft = 1, kMiddle = 2, kRight = 3 };
 
     Event() = default;
-    static Event message(const LightweightString<char>& text, EventHandler* sender, const Zn::Ptr<iObject>& payload = {});
+    // The sender's stamp tells later whether the sender is still alive.
+    static Event message(const LightweightString<char>& text, EventHandler* sender, const IdStamp& senderStamp, const Zn::Ptr<iObject>& payload = {});
     static Event mouse(Type type, XY<int> screenPos, Button button = kNoButton, unsigned modifiers = 0);
     static Event wheel(XY<int> screenPos, int delta, unsigned modifiers = 0);
     // Modifier bits may come in `keyCode`, in `modifiers` or in both.

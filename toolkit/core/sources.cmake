@@ -5,7 +5,7 @@ list(APPEND GLOBKIT_SOURCES
   core/IdStamp.cpp
   core/KeyCodes.cpp
   core/Palette.cpp
-  core/UIString.cpp
+  core/splitIf.cpp
   core/Utf8.cpp
   core/WStringFromAscii.cpp
   core/WStringFromFloat.cpp
@@ -14,5 +14,4 @@ list(APPEND GLOBKIT_SOURCES
   core/StringFromFloat.cpp
   core/asDouble.cpp
   core/getDegreesString.cpp
-  core/splitIf.cpp
 )

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cairo.h>
+#include <cstddef>
 
 Canvas::Canvas(int width, int height) : width_(std::max(1, width)), height_(std::max(1, height)) { create(); }
 
@@ -71,7 +72,7 @@ std::uint32_t Canvas::pixel(int x, int y) const {
     const unsigned char* data = cairo_image_surface_get_data(surface_);
     int stride = cairo_image_surface_get_stride(surface_);
     int row = height_ - 1 - y;
-    std::uint32_t premultiplied = *reinterpret_cast<const std::uint32_t*>(data + row * stride + x * 4);
+    std::uint32_t premultiplied = *reinterpret_cast<const std::uint32_t*>(data + std::ptrdiff_t{row} * stride + std::ptrdiff_t{x} * 4);
     // Cairo stores premultiplied alpha; give back the straight colour.
     std::uint32_t a = premultiplied >> 24;
     if (a == 0 || a == 255) return premultiplied;

@@ -2,8 +2,8 @@
 
 #include "PangoSupport.h"
 #include "TextAdvanceCache.h"
+#include "UifStd.h"
 #include "core/Utf8.h"
-#include "glob/UifStd.h"
 #include "platform/Configuration.h"
 #include "platform/Paths.h"
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cairo.h>
+#include <cstddef>
 #include <cstdio>
 #include <unistd.h>
 
@@ -82,9 +83,9 @@ void Screen::composite(const std::vector<Layer>& layers) {
 
 std::uint32_t Screen::pixel(int x, int y) const {
     if (x < 0 || y < 0 || x >= width_ || y >= height_) return 0;
-    const unsigned char* row = data() + (height_ - 1 - y) * stride();
+    const unsigned char* row = data() + std::ptrdiff_t{height_ - 1 - y} * stride();
     // The desktop is opaque, so every screen pixel is too and needs no un-premultiplying.
-    return *reinterpret_cast<const std::uint32_t*>(row + x * 4);
+    return *reinterpret_cast<const std::uint32_t*>(row + std::ptrdiff_t{x} * 4);
 }
 
 const unsigned char* Screen::data() const { return cairo_image_surface_get_data(surface_->surface); }

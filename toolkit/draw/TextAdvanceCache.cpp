@@ -19,7 +19,7 @@ constexpr std::int32_t kUnknown = std::numeric_limits<std::int32_t>::min();
 constexpr std::int16_t kUnknownPair = std::numeric_limits<std::int16_t>::min();
 // How close to the width a line may end before Pango is asked instead: the pair
 // model misses shaping across three or more characters (a ligature "ffi").
-constexpr std::int64_t kMargin = 2 * PANGO_SCALE;
+constexpr std::int64_t kMargin = std::int64_t{2} * PANGO_SCALE;
 // As WordWrappingTextRenderer::createLayout.
 constexpr int kWidest = 1 << 20;
 

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <map>
 #include <mutex>
 #include <string>
@@ -213,7 +214,7 @@ std::vector<TextLayout::Rect> TextLayout::rangeBoxes(std::size_t from, std::size
         int nRanges = 0;
         pango_layout_line_get_x_ranges(line, std::max(fromByte, box.startByte), std::min(toByte, lineEndByte), &ranges, &nRanges);
         bool shown = false;
-        for (int k = 0; k < nRanges; ++k) {
+        for (std::ptrdiff_t k = 0; k < nRanges; ++k) {
             int x1 = toPixels(ranges[2 * k]), x2 = toPixels(ranges[2 * k + 1]);
             if (x2 <= x1) continue;
             boxes.push_back({x1, box.top, x2 - x1, box.height});

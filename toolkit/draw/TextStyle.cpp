@@ -1,7 +1,6 @@
 #include "TextStyle.h"
 
 #include "Canvas.h"
-#include "controls/iTableAdaptor.h"
 
 #include <algorithm>
 
@@ -11,14 +10,6 @@ namespace Glib {
 
 FontDesc getDefaultFont(int index) {
     return FontDesc(getDefaultFontName(index == 1 ? 1u : 0u), getDefaultFontSize(), index == 1 ? FontDesc::kMonospace : FontDesc::kPlain).resolved();
-}
-
-unsigned mapTextStyle(int tableTextStyle) {
-    switch (tableTextStyle) {
-    case iTableAdaptor::kStyleBold: return FontDesc::kBold;
-    case iTableAdaptor::kStyleItalic: return FontDesc::kItalic;
-    default: return FontDesc::kPlain;
-    }
 }
 
 BoxInt calcBounds(const TextDescription& t) {

@@ -5,16 +5,13 @@
 #include "core/Box.h"
 
 // Small helpers for code that places one line of text itself: which default face
-// to use, how a table's text style maps onto a font style, where the baseline of a
-// line centred in a row falls, and the box a line of text covers.
+// to use, where the baseline of a line centred in a row falls, and the box a line
+// of text covers.
 namespace Glib {
 
 // The default face at the default size: index 0 the UI face, 1 the monospace face;
 // any other index is taken as 0.
 FontDesc getDefaultFont(int index);
-// The FontDesc style bits for an iTableAdaptor text style (2 bold, 3 italic); the
-// link style 4 and every other value are plain, since links are underlined, not restyled.
-unsigned mapTextStyle(int tableTextStyle);
 // The box one line of `t` covers: from the box's left (or as aligned), as wide as
 // the text (no wider than the box), one font line high and centred vertically in
 // the box. Empty for empty text.

@@ -2,7 +2,6 @@
 
 #include "Canvas.h"
 #include "CanvasRenderer.h"
-#include "glob/GlobManager.h"
 
 bool iRootVideoWindow::hasRenderTarget() const { return renderTarget() && !targetArea().isEmpty(); }
 
@@ -11,6 +10,8 @@ int iRootVideoWindow::paint(const std::vector<Glib::ImageDescription>& frame) {
     Canvas* canvas = renderTarget();
     BoxInt area = targetArea();
     canvas->pushOrigin({area.x1, area.y1}, area);
+    // The canvas counts what is painted on it, which brings the frame to the screen
+    // without any glob's redraw.
     CanvasRenderer renderer(canvas);
     int painted = 0;
     for (const Glib::ImageDescription& d : frame) {
@@ -19,8 +20,6 @@ int iRootVideoWindow::paint(const std::vector<Glib::ImageDescription>& frame) {
         ++painted;
     }
     canvas->popOrigin();
-    // The frame reaches the screen without any glob's redraw.
-    if (painted) GlobManager::instance().screenChanged();
     return painted;
 }
 

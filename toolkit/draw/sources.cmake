@@ -4,15 +4,19 @@ list(APPEND GLOBKIT_SOURCES
   draw/drawDepthBox.cpp
   draw/drawRoundedRectOutline.cpp
   draw/FontDesc.cpp
-  draw/Screen.cpp
-  draw/StateSaver.cpp
-  draw/ShapeMaskCache.cpp
-  draw/ShapedTextCache.cpp
-  draw/TextAdvanceCache.cpp
-  draw/TextLayout.cpp
-  draw/WordWrappingTextRenderer.cpp
+  draw/HTMLLayout.cpp
   draw/HTMLParser.cpp
   draw/HTMLRenderer.cpp
-  draw/HTMLLayout.cpp
   draw/HTMLUtils.cpp
+  draw/iRootVideoWindow.cpp
+  draw/Screen.cpp
+  draw/ShapedTextCache.cpp
+  draw/ShapeMaskCache.cpp
+  draw/StateSaver.cpp
+  draw/TextAdvanceCache.cpp
+  draw/TextLayout.cpp
+  draw/TextStyle.cpp
+  draw/UifStd.cpp
+  draw/VideoWindow.cpp
+  draw/WordWrappingTextRenderer.cpp
 )

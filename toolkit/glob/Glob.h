@@ -2,10 +2,10 @@
 
 #include "Drawable.h"
 #include "EventHandler.h"
+#include "GlobCreationInfo.h"
 #include "MouseCursor.h"
 #include "WidgetDetails.h"
-#include "core/GlobCreationInfo.h"
-#include "core/UIString.h"
+#include "platform/UIString.h"
 #include "platform/configb.h"
 
 #include <functional>

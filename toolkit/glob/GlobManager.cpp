@@ -308,11 +308,30 @@ void GlobManager::dispatch(const Event& e) {
     deleteDoomed();
 }
 
+namespace {
+std::uint64_t generationOf(const Glob* g) { return g->canvas() ? g->canvas()->generation() : 0; }
+} // namespace
+
+bool GlobManager::screenDirty() const {
+    if (screenDirty_) return true;
+    std::size_t layer = 0;
+    for (Glob* g : roots_) {
+        if (!g->isVisible()) continue;
+        if (layer == composed_.size() || composed_[layer] != generationOf(g)) return true;
+        ++layer;
+    }
+    return layer != composed_.size();
+}
+
 bool GlobManager::compose() {
-    if (!screenDirty_) return false;
+    if (!screenDirty()) return false;
     std::vector<Screen::Layer> layers;
-    for (Glob* g : roots_)
-        if (g->isVisible()) layers.push_back({g->canvas(), {g->getX(), g->getY()}, g->opacity(), g->hasShadow()});
+    composed_.clear();
+    for (Glob* g : roots_) {
+        if (!g->isVisible()) continue;
+        layers.push_back({g->canvas(), {g->getX(), g->getY()}, g->opacity(), g->hasShadow()});
+        composed_.push_back(generationOf(g));
+    }
     screen().composite(layers);
     screenDirty_ = false;
     return true;

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "GlobCreationInfo.h"
 #include "MessageQueue.h"
 #include "WidgetPosition.h"
-#include "core/GlobCreationInfo.h"
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
@@ -100,10 +101,12 @@ public:
     InputDispatcher& input() { return *input_; }
 
     Screen& screen();
-    // Marks the screen as needing composition; compose() does it when marked.
+    // Marks the screen as needing composition. It needs it too when a top-level
+    // canvas was painted outside any redraw (a video frame painted straight into it).
     void screenChanged() { screenDirty_ = true; }
+    bool screenDirty() const;
+    // Composites the screen when it needs it; says whether it did.
     bool compose();
-    bool screenDirty() const { return screenDirty_; }
 
 private:
     GlobManager();
@@ -129,6 +132,8 @@ private:
     XY<int> cascade_;
     int timerPeriodMs_ = 50;
     bool screenDirty_ = true;
+    // The generations of the canvases last composited, in layer order.
+    std::vector<std::uint64_t> composed_;
 };
 
 /// Registers a kind of glob by name at load: a static GlobKindRegistration beside the class.

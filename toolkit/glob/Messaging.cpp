@@ -11,7 +11,10 @@ namespace {
 
 std::atomic<std::thread::id> uiThread{};
 
-EventHandler* asHandler(iObject* o) { return dynamic_cast<EventHandler*>(o); }
+Event messageFrom(const LightweightString<char>& name, iObject* sender, const Zn::Ptr<iObject>& data) {
+    auto* handler = dynamic_cast<EventHandler*>(sender);
+    return Event::message(name, handler, handler ? handler->stamp() : IdStamp(), data);
+}
 
 } // namespace
 
@@ -31,14 +34,14 @@ void sendMessage(const LightweightString<char>& name, EventHandler* target, iObj
 
 void sendMessageWithData(const LightweightString<char>& name, EventHandler* target, const Zn::Ptr<iObject>& data, iObject* sender) {
     if (!target) return;
-    GlobManager::instance().post(Event::message(name, asHandler(sender), data), target);
+    GlobManager::instance().post(messageFrom(name, sender, data), target);
 }
 
 int callMessage(const LightweightString<char>& name, EventHandler* target, iObject* sender) { return callMessageWithData(name, target, {}, sender); }
 
 int callMessageWithData(const LightweightString<char>& name, EventHandler* target, const Zn::Ptr<iObject>& data, iObject* sender) {
     if (!EventHandler::isLive(target)) return 0;
-    return target->handleEvent(Event::message(name, asHandler(sender), data));
+    return target->handleEvent(messageFrom(name, sender, data));
 }
 
 void glob_poll_background_tasks() { GlobManager::instance().processPending(); }

@@ -2,9 +2,9 @@
 
 #include "Drawable.h"
 #include "GlobManager.h"
-#include "UifStd.h"
 #include "WidgetPosition.h"
 #include "draw/StateSaver.h"
+#include "draw/UifStd.h"
 
 // Makes a top-level glob of type T from `args` in the scheme's colours and shows
 // it at `where`, placed by its own size and kept on the screen. Nothing is painted

@@ -1,4 +1,6 @@
 list(APPEND GLOBKIT_SOURCES
+  image/AspectRatio.cpp
+  image/GPUImage.cpp
   image/HostImage.cpp
   image/IconCache.cpp
 )

@@ -29,7 +29,7 @@ wchar_t safeReplacement(char replacement, bool ntfs) {
 }
 
 std::size_t utf8Bytes(wchar_t c) {
-    auto u = static_cast<unsigned>(c);
+    auto u = static_cast<char32_t>(c);
     return u < 0x80 ? 1 : u < 0x800 ? 2 : u < 0x10000 ? 3 : 4;
 }
 

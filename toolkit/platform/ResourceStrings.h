@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/UIString.h"
+#include "UIString.h"
 
 // Resource strings: a table of ids to texts per language, English filling the
 // gaps of any other. Format 0 gives the text as it is, 1 with a leading capital.

@@ -1,20 +1,22 @@
 list(APPEND GLOBKIT_SOURCES
   platform/Clock.cpp
   platform/CommandRegistrar.cpp
+  platform/configb.cpp
   platform/ConfigbFile.cpp
   platform/Configuration.cpp
   platform/Cookie.cpp
   platform/CookieJar.cpp
   platform/EditorPreferences.cpp
   platform/FilespecUtils.cpp
+  platform/getSystemLogDirectory.cpp
   platform/JSON.cpp
   platform/JSONBuilder.cpp
   platform/JSONElement.cpp
   platform/OS.cpp
   platform/Paths.cpp
   platform/ResourceStrings.cpp
+  platform/revealFilesInOS.cpp
   platform/SystemWatchdog.cpp
   platform/TextFile.cpp
-  platform/getSystemLogDirectory.cpp
-  platform/configb.cpp
+  platform/UIString.cpp
 )

@@ -7,6 +7,7 @@
 #include "image/iHostImage.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -109,7 +110,7 @@ std::uint32_t globPixel(const Glob* g, int x, int y) {
 
 std::uint32_t argb(const Colour& c) {
     // As the canvas quantises a colour: to 16 bits, rounded, then the top 8 bits.
-    auto q = [](double v) { return static_cast<std::uint32_t>(static_cast<std::uint32_t>(v * 65535.0 + 0.5) >> 8); };
+    auto q = [](double v) { return static_cast<std::uint32_t>(std::lround(v * 65535.0)) >> 8; };
     return q(c.alpha()) << 24 | q(c.red()) << 16 | q(c.green()) << 8 | q(c.blue());
 }
 

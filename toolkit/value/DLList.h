@@ -8,7 +8,8 @@ class DLListRec {
 public:
     DLListRec() = default;
     DLListRec(const DLListRec&) : DLListRec() {} // a copy is in no list
-    DLListRec& operator=(const DLListRec&) { return *this; }
+    // Assigning keeps this record's own place, so assigning a record to itself is harmless.
+    DLListRec& operator=(const DLListRec&) { return *this; } // NOLINT(bugprone-unhandled-self-assignment)
     virtual ~DLListRec() = default;
 
     DLListRec* next() const { return next_; }

@@ -3,7 +3,7 @@
 #include "colour/ComponentTextBox.h"
 #include "colour/HexColourAdaptor.h"
 #include "core/FloatFromWString.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "testing/TestKit.h"
 #include "value/ValAdaptor.h"
 

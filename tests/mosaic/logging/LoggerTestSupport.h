@@ -4,8 +4,8 @@
 
 #include "controls/TableWidget.h"
 #include "core/Utf8.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/UifStd.h"
 #include "platform/Clock.h"
 #include "platform/OS.h"
 #include "platform/Paths.h"

@@ -1,7 +1,7 @@
 #include "ProgressTestSupport.h"
 
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/UifStd.h"
 #include "logging/ProgInd.h"
 
 namespace {

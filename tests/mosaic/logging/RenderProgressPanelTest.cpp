@@ -1,7 +1,7 @@
 #include "ProgressTestSupport.h"
 
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/UifStd.h"
 #include "image/GPUImage.h"
 #include "image/HostImage.h"
 #include "logging/RenderProgressPanel.h"

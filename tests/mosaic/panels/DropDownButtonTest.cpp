@@ -1,6 +1,6 @@
 #include "controls/Button.h"
 #include "draw/Screen.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "panels/DropDownButtonEx.h"
 #include "testing/TestKit.h"
 

@@ -4,8 +4,8 @@
 #include "ParamTestSupport.h"
 #include "controls/NumericTextBox.h"
 #include "controls/Slider.h"
+#include "controls/StandardPanel.h"
 #include "glob/GlobManager.h"
-#include "glob/StandardPanel.h"
 #include "testing/TestKit.h"
 #include "value/ValAdaptor.h"
 

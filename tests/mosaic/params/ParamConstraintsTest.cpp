@@ -1,7 +1,7 @@
 // The conditions the builder wires between parameters and rows: which rows are
 // active, which are shown, and numbers held to other parameters' values.
 #include "UIBuilderParamsTestSupport.h"
-#include "glob/StandardPanel.h"
+#include "controls/StandardPanel.h"
 #include "params/ActiveConstraint.h"
 #include "params/MaxValueConstraint.h"
 #include "params/MinValueConstraint.h"

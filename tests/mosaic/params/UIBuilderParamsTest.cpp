@@ -1,7 +1,7 @@
 // Where the changes of a panel's parameters meet: listeners, post-conditions,
 // actions, and the lifetime of the set against the parameters it wires.
 #include "UIBuilderParamsTestSupport.h"
-#include "glob/StandardPanel.h"
+#include "controls/StandardPanel.h"
 #include "params/ActiveConstraint.h"
 #include "params/MaxValueConstraint.h"
 #include "params/MinValueConstraint.h"

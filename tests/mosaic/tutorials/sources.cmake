@@ -1,4 +1,4 @@
 list(APPEND MOSAIC_TEST_SOURCES
-  mosaic/tutorials/TutorialTest.cpp
   mosaic/tutorials/TutorialsManagerTest.cpp
+  mosaic/tutorials/TutorialTest.cpp
 )

@@ -1,7 +1,7 @@
 #include "ControlsTestSupport.h"
 #include "controls/ButtonWidget.h"
 #include "controls/PushButton.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "value/ValAdaptor.h"
 
 namespace {

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "controls/StandardPanel.h"
 #include "core/FunctionCallback.h"
 #include "core/NotifyMsg.h"
 #include "glob/GlobManager.h"
-#include "glob/StandardPanel.h"
 #include "testing/TestKit.h"
 
 #include <functional>

@@ -1,7 +1,7 @@
 #include "controls/DropDownMenuButton.h"
 #include "MenusTestSupport.h"
+#include "draw/UifStd.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 #include "value/ValAdaptor.h"
 
 #include <algorithm>

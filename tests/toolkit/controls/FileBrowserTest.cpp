@@ -7,8 +7,8 @@
 #include "controls/TextBox.h"
 #include "core/Utf8.h"
 #include "draw/Screen.h"
+#include "draw/UifStd.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 
 #include <dirent.h>
 #include <filesystem>

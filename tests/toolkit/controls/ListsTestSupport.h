@@ -1,8 +1,8 @@
 #pragma once
 
+#include "controls/StandardPanel.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/StandardPanel.h"
-#include "glob/UifStd.h"
 #include "testing/TestKit.h"
 
 #include <string>

@@ -1,8 +1,8 @@
 #include "MenusTestSupport.h"
 #include "controls/Button.h"
 #include "draw/Screen.h"
+#include "draw/UifStd.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 
 namespace {
 

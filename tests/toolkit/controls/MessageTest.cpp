@@ -2,8 +2,8 @@
 #include "controls/PushButton.h"
 #include "controls/Warn.h"
 #include "draw/Screen.h"
+#include "draw/UifStd.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 
 namespace {
 

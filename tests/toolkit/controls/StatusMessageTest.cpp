@@ -2,7 +2,7 @@
 #include "PanelsTestSupport.h"
 #include "controls/PushButton.h"
 #include "draw/Screen.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 #include "platform/Clock.h"
 
 namespace {

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "controls/StandardPanel.h"
 #include "core/FunctionCallback.h"
 #include "core/WidgetCallback.h"
 #include "draw/TextLayout.h"
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
 #include "glob/Messaging.h"
-#include "glob/StandardPanel.h"
-#include "glob/UifStd.h"
 #include "platform/OS.h"
 #include "testing/TestKit.h"
 

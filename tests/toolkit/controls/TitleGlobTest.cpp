@@ -1,7 +1,7 @@
 #include "PanelsTestSupport.h"
 #include "controls/TextLabel.h"
 #include "controls/TitleButton.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "controls/TitleMenuButton.h"
 #include "MenusTestSupport.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 
 namespace {
 

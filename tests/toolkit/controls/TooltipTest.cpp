@@ -2,8 +2,8 @@
 #include "controls/Button.h"
 #include "controls/TextLabel.h"
 #include "controls/TipWindowBase.h"
+#include "draw/UifStd.h"
 #include "glob/InputDispatcher.h"
-#include "glob/UifStd.h"
 #include "platform/Clock.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include "controls/WidgetGroup.h"
 #include "PanelsTestSupport.h"
 #include "controls/Button.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 
 namespace {
 

@@ -4,11 +4,11 @@
 #include "core/IdStamp.h"
 #include "core/MethodCallback.h"
 #include "core/Palette.h"
-#include "core/UIString.h"
 #include "core/WidgetCallback.h"
 #include "draw/GlibDescriptions.h"
 #include "glob/Border.h"
 #include "platform/ResourceStrings.h"
+#include "platform/UIString.h"
 
 #include <gtest/gtest.h>
 
@@ -91,7 +91,7 @@ TEST(Event, FreeTestsClassifyMouseEvents) {
     EXPECT_TRUE(mouse_chord_event(chord));
     EXPECT_TRUE(mouse_wheel_event(wheel) && mouse_event(wheel));
     EXPECT_FALSE(mouse_event(Event::key(Event::kKeyPress, 'a')));
-    EXPECT_EQ(Event::message("m", nullptr).type(), 16385);
+    EXPECT_EQ(Event::message("m", nullptr, {}).type(), 16385);
 
     EXPECT_TRUE(isMouseMoveSignificant(&down));
     Event jitter = Event::mouse(Event::kMouseMove, {6, 4});

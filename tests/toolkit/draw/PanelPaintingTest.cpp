@@ -1,7 +1,7 @@
 #include "../glob/Blocks.h"
 
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/UifStd.h"
 
 #include <cairo.h>
 #include <filesystem>

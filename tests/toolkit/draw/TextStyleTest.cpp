@@ -1,22 +1,16 @@
 #include "draw/TextStyle.h"
-#include "controls/iTableAdaptor.h"
 #include "draw/Canvas.h"
 #include "draw/CanvasRenderer.h"
 
 #include <gtest/gtest.h>
 
-TEST(TextStyle, FontsStylesAndBaselinesForTextPlacedByHand) {
+TEST(TextStyle, FontsAndBaselinesForTextPlacedByHand) {
     Glib::FontDesc ui = Glib::getDefaultFont(0), mono = Glib::getDefaultFont(1);
     EXPECT_EQ(ui, Glib::getDefaultFont());
     EXPECT_EQ(mono.name, getDefaultFontName(1));
     EXPECT_EQ(Glib::getDefaultFont(7), ui) << "unknown faces are the UI face";
     EXPECT_EQ(Canvas::createFont(Glib::FontDesc()), ui) << "an empty description is the default font";
     EXPECT_EQ(Canvas::createFont(Glib::FontDesc("", 30)).size, 30);
-
-    EXPECT_EQ(Glib::mapTextStyle(iTableAdaptor::kStyleBold), Glib::FontDesc::kBold);
-    EXPECT_EQ(Glib::mapTextStyle(iTableAdaptor::kStyleItalic), Glib::FontDesc::kItalic);
-    EXPECT_EQ(Glib::mapTextStyle(iTableAdaptor::kStyleLink), Glib::FontDesc::kPlain);
-    EXPECT_EQ(Glib::mapTextStyle(99), Glib::FontDesc::kPlain);
 
     int h = Glib::fontHeight(ui), a = Glib::fontAscent(ui);
     EXPECT_EQ(getFontYOffset(h, ui), -a) << "a row one line high has its baseline an ascent down";

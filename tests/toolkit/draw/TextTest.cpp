@@ -1,7 +1,7 @@
 #include "draw/Canvas.h"
 #include "draw/CanvasRenderer.h"
 #include "draw/FontDesc.h"
-#include "glob/UifStd.h"
+#include "draw/UifStd.h"
 
 #include <gtest/gtest.h>
 

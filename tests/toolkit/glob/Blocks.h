@@ -1,8 +1,8 @@
 #pragma once
 
+#include "controls/StandardPanel.h"
 #include "draw/CanvasRenderer.h"
 #include "glob/GlobManager.h"
-#include "glob/StandardPanel.h"
 #include "testing/TestKit.h"
 
 // A glob that fills itself with one colour and records what reaches it and how often it paints.

@@ -1,9 +1,9 @@
 #include "glob/CanvasStack.h"
+#include "controls/StandardPanel.h"
 #include "draw/Canvas.h"
 #include "glob/FileDrag.h"
 #include "glob/GlobManager.h"
 #include "glob/InputDispatcher.h"
-#include "glob/StandardPanel.h"
 #include "testing/TestKit.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "Blocks.h"
 
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
-#include "glob/UifStd.h"
 
 using TestKit::Owned;
 

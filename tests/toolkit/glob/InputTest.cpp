@@ -1,9 +1,9 @@
 #include "Blocks.h"
 
+#include "draw/UifStd.h"
 #include "glob/GlobManager.h"
 #include "glob/InputDispatcher.h"
 #include "glob/Messaging.h"
-#include "glob/UifStd.h"
 
 using TestKit::Owned;
 

@@ -3,4 +3,5 @@ list(APPEND GLOBKIT_TEST_SOURCES
   toolkit/platform/FilespecUtilsTest.cpp
   toolkit/platform/JsonTest.cpp
   toolkit/platform/PlatformTest.cpp
+  toolkit/platform/ShellTest.cpp
 )

@@ -1,6 +1,6 @@
 #include "value/UIThreadCallback.h"
+#include "controls/StandardPanel.h"
 #include "core/FunctionCallback.h"
-#include "glob/StandardPanel.h"
 #include "testing/TestKit.h"
 
 #include <gtest/gtest.h>

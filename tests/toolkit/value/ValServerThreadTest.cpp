@@ -1,4 +1,4 @@
-#include "glob/StandardPanel.h"
+#include "controls/StandardPanel.h"
 #include "testing/TestKit.h"
 #include "value/UIThreadCallback.h"
 #include "value/ValServer.h"

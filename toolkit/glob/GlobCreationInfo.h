@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Palette.h"
-#include "XY.h"
-#include "iVirtual.h"
+#include "core/Palette.h"
+#include "core/XY.h"
+#include "core/iVirtual.h"
 #include "platform/configb.h"
 
 class Canvas;

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Border.h"
-#include "Glob.h"
-#include "TabOrderManager.h"
-#include "controls/MenuGlob.h"
+#include "MenuGlob.h"
 #include "draw/FontDesc.h"
+#include "glob/Border.h"
+#include "glob/Glob.h"
+#include "glob/TabOrderManager.h"
 
 /// The toolkit's panel: a glob with a border, an optional title bar with window
 /// furniture, a user area for its children, a tab order, a context menu, and a

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "FontDesc.h"
 #include "core/Palette.h"
-#include "core/UIString.h"
-#include "draw/FontDesc.h"
+#include "platform/UIString.h"
 
 /// The source of every metric and of the appearance. Layout code asks it for row
 /// heights, gaps and fonts instead of holding pixel numbers; every metric is a base

@@ -1,6 +1,6 @@
 #include "UIString.h"
 
-#include "platform/ResourceStrings.h"
+#include "ResourceStrings.h"
 
 LightweightString<wchar_t> UIString::getString() const {
     LightweightString<wchar_t> s = text_;

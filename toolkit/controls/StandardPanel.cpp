@@ -1,10 +1,10 @@
 #include "StandardPanel.h"
 
-#include "GlobManager.h"
-#include "Messaging.h"
-#include "UifStd.h"
 #include "draw/Canvas.h"
 #include "draw/CanvasRenderer.h"
+#include "draw/UifStd.h"
+#include "glob/GlobManager.h"
+#include "glob/Messaging.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "LightweightString.h"
+#include "core/LightweightString.h"
 
 #include <cstdint>
 

@@ -1,1 +1,0 @@
-list(APPEND GALLERY_SOURCES FilesScene.cpp)

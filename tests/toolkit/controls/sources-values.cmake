@@ -1,4 +1,0 @@
-list(APPEND GLOBKIT_TEST_SOURCES
-  toolkit/controls/GaugeTest.cpp
-  toolkit/controls/SliderTest.cpp
-)

@@ -1,3 +1,0 @@
-list(APPEND GLOBKIT_TEST_SOURCES
-  toolkit/draw/TextStyleTest.cpp
-)

@@ -1,4 +1,0 @@
-list(APPEND GLOBKIT_SOURCES
-  controls/Gauge.cpp
-  controls/Slider.cpp
-)

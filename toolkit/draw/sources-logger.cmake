@@ -1,3 +1,0 @@
-list(APPEND GLOBKIT_SOURCES
-  draw/TextStyle.cpp
-)

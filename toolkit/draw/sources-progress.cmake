@@ -1,4 +1,0 @@
-list(APPEND GLOBKIT_SOURCES
-  draw/iRootVideoWindow.cpp
-  draw/VideoWindow.cpp
-)

@@ -1,4 +1,0 @@
-list(APPEND GLOBKIT_SOURCES
-  glob/CanvasStack.cpp
-  glob/FileDrag.cpp
-)

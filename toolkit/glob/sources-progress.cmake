@@ -1,5 +1,0 @@
-list(APPEND GLOBKIT_SOURCES
-  glob/UpdateDeferrer.cpp
-  glob/SuspendRefreshOffToggle.cpp
-  glob/glib_getPosForWindow.cpp
-)

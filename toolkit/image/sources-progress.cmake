@@ -1,4 +1,0 @@
-list(APPEND GLOBKIT_SOURCES
-  image/AspectRatio.cpp
-  image/GPUImage.cpp
-)
