@@ -1,5 +1,6 @@
 #include "GalleryProbe.h"
 
+#include "colour/ColourDataValWidget.h"
 #include "controls/Button.h"
 #include "controls/Checkbox.h"
 #include "controls/DropDownMenuButton.h"
@@ -8,6 +9,7 @@
 #include "controls/TextBoxBase.h"
 #include "controls/TextLabel.h"
 #include "controls/TitleTextBox.h"
+#include "core/StringFromFloat.h"
 #include "core/Utf8.h"
 #include "draw/Screen.h"
 #include "glob/Glob.h"
@@ -98,6 +100,11 @@ std::optional<std::string> GalleryProbe::valueOf(const Glob* g) {
     if (auto* t = dynamic_cast<const TextBoxBase*>(g)) return text(t->getString());
     if (auto* t = dynamic_cast<const TitleTextBox*>(g)) return text(t->getString());
     if (auto* l = dynamic_cast<const TextLabel*>(g)) return text(l->getText().getString());
+    if (auto* w = dynamic_cast<const ColourDataValWidget*>(g)) {
+        const ColourData c = w->getWidgetValue();
+        return std::string(StringFromFloat(c.getHue()).c_str()) + " " + StringFromFloat(c.getSaturation()).c_str() + " " +
+               StringFromFloat(c.getValue()).c_str();
+    }
     if (auto* s = dynamic_cast<const Slider*>(g)) {
         std::ostringstream out;
         out << s->getPosition();

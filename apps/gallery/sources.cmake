@@ -1,4 +1,5 @@
 list(APPEND GALLERY_SOURCES
+  ColourScene.cpp
   ControlsScene.cpp
   DemoScene.cpp
   EditorScene.cpp

@@ -52,9 +52,9 @@ void FileFormatButton::init(Compression::eUsage usage) {
 LightweightString<char> FileFormatButton::getFileType() { return ZnExport::getFormatIDForExtension(getSelectedItemNameW()); }
 
 void FileFormatButton::handleChoice(int choice) {
-    const IdStamp me = stamp();
+    const GlobHandle<FileFormatButton> me(this);
     DropDownMenuButton::handleChoice(choice);
-    if (EventHandler::valid(this, me)) informOwner();
+    if (me) informOwner();
 }
 
 void FileFormatButton::informOwner() {

@@ -154,7 +154,15 @@ Event SdlBackend::translate(const void* raw, int screenHeight) {
     const SDL_Event& e = *static_cast<const SDL_Event*>(raw);
     auto at = [screenHeight](int x, int y) { return XY<int>(x, screenHeight - 1 - y); };
     switch (e.type) {
-    case SDL_MOUSEMOTION: return Event::mouse(Event::kMouseMove, at(e.motion.x, e.motion.y), Event::kNoButton, mapModifiers(SDL_GetModState()));
+    case SDL_MOUSEMOTION: {
+        // A move with a button held says which, as a drag's moves do.
+        const Uint32 held = e.motion.state;
+        const Event::Button button = (held & SDL_BUTTON_LMASK)   ? Event::kLeft
+                                     : (held & SDL_BUTTON_RMASK) ? Event::kRight
+                                     : (held & SDL_BUTTON_MMASK) ? Event::kMiddle
+                                                                 : Event::kNoButton;
+        return Event::mouse(Event::kMouseMove, at(e.motion.x, e.motion.y), button, mapModifiers(SDL_GetModState()));
+    }
     case SDL_MOUSEBUTTONDOWN:
     case SDL_MOUSEBUTTONUP: {
         Event m = Event::mouse(e.type == SDL_MOUSEBUTTONDOWN ? Event::kMouseDown : Event::kMouseUp, at(e.button.x, e.button.y),

@@ -1,5 +1,7 @@
 #include "Button.h"
 
+#include "core/enumFromInt.h"
+
 #include "draw/CanvasRenderer.h"
 #include "draw/UifStd.h"
 #include "glob/fireCallback.h"
@@ -28,16 +30,32 @@ void Button::setLatching(bool latching, bool latched) {
     setLatched(latching && latched);
 }
 
-void Button::setLatched(bool latched, eRedrawFlag flag) {
-    latched_ = latching_ && latched;
-    if (flag == kRedraw) redraw();
+void Button::setLatched(bool latched, eRedrawFlag flag) { switchState(latching_ && latched ? kButtonDown : kButtonUp, flag == kRedraw); }
+
+void Button::setState(int state, int redraw) { switchState(enumFromInt(state, kButtonUp, kButtonDown, kButtonUp), redraw != 0); }
+
+void Button::switchState(button_state state, bool redraw) {
+    state_ = state;
+    if (redraw) this->redraw();
+}
+
+void Button::setStateColour(button_state state, const Colour& colour) {
+    stateColours_[state] = colour;
+    hasStateColour_[state] = true;
 }
 
 int Button::calcHeight() { return UifStd::instance().getRowHeight(); }
 
 void Button::drawBackground() {
     Glob::drawBackground();
-    drawFace(BoxInt(0, 0, width(), height()), style_ == kFlat, latched_);
+    const bool down = state_ == kButtonDown;
+    if (hasStateColour_[state_] && isActive() && !isPressed()) {
+        Glib::RectDescription face(BoxInt(0, 0, width(), height()), stateColours_[state_]);
+        face.cornerRadius = 3.0 * UifStd::instance().getScale();
+        CanvasRenderer(canvas()).render(face);
+    } else {
+        drawFace(BoxInt(0, 0, width(), height()), style_ != kRaised, down);
+    }
     drawLabel(label_, labelBox());
 }
 
@@ -49,6 +67,6 @@ void Button::drawLabel(const UIString& text, const BoxInt& box) const {
 }
 
 void Button::clicked() {
-    if (latching_) setLatched(!latched_);
+    if (latching_) switchState(state_ == kButtonDown ? kButtonUp : kButtonDown, true);
     fireCallback(this, callback_);
 }

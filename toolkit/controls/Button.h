@@ -25,8 +25,9 @@ public:
     const UIString& getLabel() const { return label_; }
     void setCallback(const WidgetCallback& callback) { callback_ = callback; }
     const WidgetCallback& getCallback() const { return callback_; }
-    // The first style word: kFlat shows the face only when hovered or pressed.
-    enum eStyle { kRaised = 0, kFlat = 1 };
+    // The first style word: kFlat shows the face only when hovered, pressed or
+    // down; kFlatDropDown is flat too, for a button that drops a panel of its own.
+    enum eStyle { kRaised = 0, kFlat = 1, kFlatDropDown = 2 };
     // Two style words: an eStyle, and a second word kept for the caller.
     void setStyle(int style, int style2 = 0);
     int getStyle() const { return style_; }
@@ -35,8 +36,20 @@ public:
     // is on while latched).
     void setLatching(bool latching, bool latched = false);
     bool isLatching() const { return latching_; }
-    bool isLatched() const { return latched_; }
+    bool isLatched() const { return latching_ && state_ == kButtonDown; }
     void setLatched(bool latched, eRedrawFlag flag = kRedraw);
+
+    // Up or down (NUMBERS.md). A latching button's click toggles it; a subclass
+    // may hold a button down for as long as something it opened stands.
+    enum button_state { kButtonUp = 0, kButtonDown = 1 };
+    // A state by number: one that names no state counts as up. A non-zero `redraw`
+    // repaints at once.
+    void setState(int state, int redraw);
+    button_state getState() const { return state_; }
+    // Every change of state comes through here.
+    virtual void switchState(button_state state, bool redraw);
+    // The face's colour in a state, instead of the palette's shade for it.
+    void setStateColour(button_state state, const Colour& colour);
 
     // The size that shows `label` in `font` with the usual margins.
     static XY<int> calcSizeFor(const UIString& label, const Glib::FontDesc& font = {});
@@ -57,5 +70,7 @@ private:
     int style_ = 0;
     int style2_ = 0;
     bool latching_ = false;
-    bool latched_ = false;
+    button_state state_ = kButtonUp;
+    Colour stateColours_[2];
+    bool hasStateColour_[2] = {false, false};
 };

@@ -9,5 +9,10 @@ list(APPEND GLOBKIT_SOURCES
   core/splitIf.cpp
   core/Utf8.cpp
   core/WStringFromAscii.cpp
+  core/WStringFromFloat.cpp
   core/WStringFromInteger.cpp
+  core/FloatFromWString.cpp
+  core/StringFromFloat.cpp
+  core/asDouble.cpp
+  core/getDegreesString.cpp
 )

@@ -23,20 +23,28 @@ void CanvasRenderer::noteModified(double x1, double y1, double x2, double y2) co
 
 namespace {
 
-// A rectangle inset by `inset` on every side, its corners rounded by `radius`
-// about the same centres whatever the inset.
-void roundedRectPath(cairo_t* cr, double x, double y, double w, double h, double inset, double radius) {
+// A rectangle inset by `inset` on every side, the corners that `corners` names
+// (RectDescription's bits) rounded by `radius` about the same centres whatever the
+// inset. Cairo's y runs down: its top corners are the description's top ones.
+void roundedRectPath(cairo_t* cr, double x, double y, double w, double h, double inset, double radius, unsigned corners = 15) {
     double x0 = x + inset, y0 = y + inset, x1 = x + w - inset, y1 = y + h - inset;
     if (x1 <= x0 || y1 <= y0) return;
-    if (radius <= 0.0) {
+    if (radius <= 0.0 || (corners & 15) == 0) {
         cairo_rectangle(cr, x0, y0, x1 - x0, y1 - y0);
         return;
     }
+    auto corner = [&](unsigned bit, double cx, double cy, double a, double px, double py) {
+        if (corners & bit)
+            cairo_arc(cr, cx, cy, radius, a, a + M_PI / 2);
+        else
+            cairo_line_to(cr, px, py);
+    };
+    using R = Glib::RectDescription;
     cairo_new_sub_path(cr);
-    cairo_arc(cr, x1 - radius, y0 + radius, radius, -M_PI / 2, 0);
-    cairo_arc(cr, x1 - radius, y1 - radius, radius, 0, M_PI / 2);
-    cairo_arc(cr, x0 + radius, y1 - radius, radius, M_PI / 2, M_PI);
-    cairo_arc(cr, x0 + radius, y0 + radius, radius, M_PI, 3 * M_PI / 2);
+    corner(R::kTopRightCorner, x1 - radius, y0 + radius, -M_PI / 2, x1, y0);
+    corner(R::kBottomRightCorner, x1 - radius, y1 - radius, 0, x1, y1);
+    corner(R::kBottomLeftCorner, x0 + radius, y1 - radius, M_PI / 2, x0, y1);
+    corner(R::kTopLeftCorner, x0 + radius, y0 + radius, M_PI, x0, y0);
     cairo_close_path(cr);
 }
 
@@ -77,6 +85,23 @@ void ellipsePath(cairo_t* cr, double cx, double cy, double rx, double ry) {
     cairo_restore(cr);
 }
 
+// The band between two ellipses over the arc from `start` to `end`, in degrees
+// clockwise from straight up; cairo's angles run clockwise from the right.
+void arcBandPath(cairo_t* cr, double cx, double cy, double rx, double ry, double inner, double start, double end) {
+    const double a0 = (start - 90.0) * M_PI / 180.0, a1 = (end - 90.0) * M_PI / 180.0;
+    cairo_save(cr);
+    cairo_translate(cr, cx, cy);
+    cairo_scale(cr, rx, ry);
+    cairo_new_sub_path(cr);
+    cairo_arc(cr, 0, 0, 1, a0, a1);
+    if (inner > 0.0)
+        cairo_arc_negative(cr, 0, 0, inner, a1, a0);
+    else
+        cairo_line_to(cr, 0, 0);
+    cairo_close_path(cr);
+    cairo_restore(cr);
+}
+
 } // namespace
 
 void CanvasRenderer::render(const Glib::RectDescription& r) const {
@@ -88,8 +113,9 @@ void CanvasRenderer::render(const Glib::RectDescription& r) const {
     if (r.filled) {
         setColour(r.fill);
         if (rad > 0.0) {
-            paintShape(cr, x, y, w, h, shapeKey('r', {double(w), double(h), rad}), [=](cairo_t* c) {
-                roundedRectPath(c, 0, 0, w, h, 0.0, rad);
+            const unsigned corners = r.corners;
+            paintShape(cr, x, y, w, h, shapeKey('r', {double(w), double(h), rad, double(corners)}), [=](cairo_t* c) {
+                roundedRectPath(c, 0, 0, w, h, 0.0, rad, corners);
                 cairo_fill(c);
             });
         } else {
@@ -100,14 +126,15 @@ void CanvasRenderer::render(const Glib::RectDescription& r) const {
     if (r.outlineWidth > 0.0) {
         const double lw = r.outlineWidth, half = lw / 2;
         setColour(r.outline);
+        const unsigned corners = r.corners;
         auto ring = [=](cairo_t* c) {
-            roundedRectPath(c, 0, 0, w, h, 0.0, rad > 0.0 ? rad + half : 0.0);
-            roundedRectPath(c, 0, 0, w, h, lw, std::max(0.0, rad - half));
+            roundedRectPath(c, 0, 0, w, h, 0.0, rad > 0.0 ? rad + half : 0.0, corners);
+            roundedRectPath(c, 0, 0, w, h, lw, std::max(0.0, rad - half), corners);
             fillRing(c);
         };
         // Square corners are boxes to cairo, as quick to fill as to mask.
-        if (rad > 0.0) {
-            paintShape(cr, x, y, w, h, shapeKey('o', {double(w), double(h), rad, lw}), ring);
+        if (rad > 0.0 && (corners & 15)) {
+            paintShape(cr, x, y, w, h, shapeKey('o', {double(w), double(h), rad, lw, double(corners)}), ring);
         } else {
             cairo_save(cr);
             cairo_translate(cr, x, y);
@@ -160,10 +187,23 @@ void CanvasRenderer::render(const Glib::EllipseDescription& e) const {
     const int x0 = static_cast<int>(std::floor(cx - rx - half)) - 1, y0 = static_cast<int>(std::floor(cy - ry - half)) - 1;
     const int w = static_cast<int>(std::ceil(cx + rx + half)) + 1 - x0, h = static_cast<int>(std::ceil(cy + ry + half)) + 1 - y0;
     const double mx = cx - x0, my = cy - y0;
+    const double start = e.startAngle, end = e.endAngle;
+    if (end <= start) return;
+    if (e.fillFirst) render(Glib::EllipseDescription(e.centre, e.radii, e.fillColour));
     setColour(e.colour);
-    paintShape(cr, x0, y0, w, h, shapeKey('e', {mx, my, rx, ry, e.filled ? -1.0 : e.lineWidth, double(w), double(h)}), [=](cairo_t* c) {
+    const bool whole = end - start >= 360.0;
+    const std::string key =
+        shapeKey('e', {mx, my, rx, ry, e.filled ? -1.0 : e.lineWidth, double(w), double(h), whole ? 0.0 : start, whole ? 0.0 : end});
+    paintShape(cr, x0, y0, w, h, key, [=](cairo_t* c) {
+        const bool ring = half > 0.0 && rx > half && ry > half;
+        if (!whole) {
+            // The inner edge as a fraction of the outer radius, the same along the arc for a circle.
+            arcBandPath(c, mx, my, rx + half, ry + half, ring ? (rx - half) / (rx + half) : 0.0, start, end);
+            cairo_fill(c);
+            return;
+        }
         ellipsePath(c, mx, my, rx + half, ry + half);
-        if (half > 0.0 && rx > half && ry > half) ellipsePath(c, mx, my, rx - half, ry - half);
+        if (ring) ellipsePath(c, mx, my, rx - half, ry - half);
         fillRing(c);
     });
     noteModified(e.centre.x - rx - half - 1, e.centre.y - ry - half - 1, e.centre.x + rx + half + 1, e.centre.y + ry + half + 1);

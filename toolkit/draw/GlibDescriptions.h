@@ -19,6 +19,10 @@ struct RectDescription {
     Colour outline;
     double outlineWidth = 0.0; // 0: no outline
     double cornerRadius = 0.0;
+    // Which corners the radius rounds (NUMBERS.md): bits 1 bottom left, 2 bottom
+    // right, 4 top left, 8 top right; 15 all of them, 0 none.
+    enum CornerBits : unsigned { kBottomLeftCorner = 1, kBottomRightCorner = 2, kTopLeftCorner = 4, kTopRightCorner = 8, kAllCorners = 15 };
+    unsigned corners = kAllCorners;
 
     RectDescription() = default;
     RectDescription(const BoxInt& b, const Colour& c) : box(b), fill(c) {}
@@ -34,16 +38,33 @@ struct LineDescription {
     LineDescription(XY<double> a, XY<double> b, const Colour& c, double w = 1.0) : from(a), to(b), colour(c), width(w) {}
 };
 
-/// An ellipse about its centre, filled or drawn as a line of `lineWidth`.
+/// An ellipse, filled, or a ring of `lineWidth` centred on its edge. Between the
+/// angles (degrees clockwise from straight up) only that arc is drawn: a full turn,
+/// 0 to 360, is the whole shape.
 struct EllipseDescription {
     XY<double> centre;
     XY<double> radii;
     Colour colour;
     bool filled = true;
     double lineWidth = 1.0;
+    double startAngle = 0.0;
+    double endAngle = 360.0;
+
+    // The style of the box form: kFilledEllipse fills with the first colour and
+    // rings it with the second; kRing draws only the ring, in the second colour.
+    enum eStyle { kFilledEllipse = 0, kRing = 1 };
 
     EllipseDescription() = default;
     EllipseDescription(XY<double> c, XY<double> r, const Colour& col, bool fill = true) : centre(c), radii(r), colour(col), filled(fill) {}
+    // The ellipse that fits `box`, its ring's middle line on the box's edge.
+    EllipseDescription(const Zn::Box<double, Zn::BottomUpTraits>& box, double width, double start, double end, const Colour& fill,
+                       const Colour& outline, eStyle style)
+        : centre((box.x1 + box.x2) / 2, (box.y1 + box.y2) / 2), radii(box.width() / 2, box.height() / 2), colour(outline), filled(false),
+          lineWidth(width), startAngle(start), endAngle(end), fillColour(fill), fillFirst(style == kFilledEllipse) {}
+
+    // With the box form's kFilledEllipse: the fill under the ring.
+    Colour fillColour;
+    bool fillFirst = false;
 };
 
 // How text sits across its box; kAlignDefault leaves it to the drawing (left, or

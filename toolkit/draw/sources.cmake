@@ -1,6 +1,8 @@
 list(APPEND GLOBKIT_SOURCES
   draw/Canvas.cpp
   draw/CanvasRenderer.cpp
+  draw/drawDepthBox.cpp
+  draw/drawRoundedRectOutline.cpp
   draw/FontDesc.cpp
   draw/HTMLLayout.cpp
   draw/HTMLParser.cpp

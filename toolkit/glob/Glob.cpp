@@ -305,7 +305,7 @@ void Glob::startMoving(const XY<int>& grab, bool raise) {
     GlobManager::instance().input().startMoving(root, grab);
 }
 
-void Glob::setModalContextGlob(Glob* modal, Glob* context) { GlobManager::instance().addModalGlob(modal, context ? context : this); }
+void Glob::setModalContextGlob(Glob* modal, Glob* context) { GlobManager::instance().addModalContextGlob(modal, context ? context : this); }
 
 void Glob::unsetModalContextGlob(Glob* modal) { GlobManager::instance().removeModalGlob(modal); }
 

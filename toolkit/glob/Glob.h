@@ -131,7 +131,9 @@ public:
     void startMoving(const XY<int>& grab, bool raise = true);
     // Called after a top-level glob moved on the screen.
     virtual void moved() {}
-    // Makes `modal` take all input while it is up, with `context` (this glob if null) below it.
+    // Makes `modal` take all input while it is up, with `context` (this glob if null)
+    // below it; a press outside it dismisses it and tells the context
+    // (GlobManager::addModalContextGlob).
     void setModalContextGlob(Glob* modal, Glob* context = nullptr);
     void unsetModalContextGlob(Glob* modal);
 

@@ -118,6 +118,7 @@ void GlobManager::forgetGlob(Glob* g) {
     forgetRoot(g);
     // A dying glob fails its handle already.
     std::erase_if(modal_, [](const auto& m) { return !m; });
+    std::erase_if(contexts_, [](const ModalContext& c) { return !c.modal; });
     timerGlobs_.erase(std::remove(timerGlobs_.begin(), timerGlobs_.end(), g), timerGlobs_.end());
     input_->forget(g);
 }
@@ -165,6 +166,26 @@ void GlobManager::addModalGlob(Glob* g, Glob*) {
 
 void GlobManager::removeModalGlob(Glob* g) {
     std::erase_if(modal_, [g](const auto& m) { return m.refersTo(g) || !m; });
+    std::erase_if(contexts_, [g](const ModalContext& c) { return c.modal.refersTo(g) || !c.modal; });
+}
+
+void GlobManager::addModalContextGlob(Glob* g, Glob* context) {
+    if (!is_good_glob_ptr(g) || !is_good_glob_ptr(context)) return;
+    addModalGlob(g, context);
+    std::erase_if(contexts_, [g](const ModalContext& c) { return c.modal.refersTo(g); });
+    // A glob that is its own context is a modal dialogue: only its own buttons close it.
+    if (context != g) contexts_.push_back({GlobHandle<Glob>(g), GlobHandle<Glob>(context)});
+}
+
+bool GlobManager::dismissModalContext() {
+    Glob* modal = topModal();
+    auto it = std::find_if(contexts_.begin(), contexts_.end(), [modal](const ModalContext& c) { return c.modal.refersTo(modal); });
+    if (it == contexts_.end()) return false;
+    const GlobHandle<Glob> context = it->context;
+    removeModalGlob(modal);
+    if (Glob* c = context.get()) sendMessage(dismissedMsg, c, modal);
+    requestDeletion(modal);
+    return true;
 }
 
 Glob* GlobManager::topModal() const {

@@ -49,6 +49,14 @@ public:
     void addModalGlob(Glob* g, Glob* context = nullptr);
     void removeModalGlob(Glob* g);
     Glob* topModal() const;
+    // A modal glob with a context (a panel dropped from a button, say): a press
+    // outside it and the globs above it dismisses it. It is deleted at the next
+    // safe moment and `context` is posted dismissedMsg, with the glob as sender.
+    void addModalContextGlob(Glob* g, Glob* context);
+    // Dismisses the top modal glob if it has a context; false when it has none.
+    bool dismissModalContext();
+    // What the context of a dismissed glob hears; menus tell their owners the same.
+    static constexpr const char* dismissedMsg = "menu_poot";
 
     // Where a new top-level glob of the given size goes: a position asked for, or
     // the next place of a cascade from the top left, kept on the screen.
@@ -109,6 +117,12 @@ private:
 
     std::vector<Glob*> roots_;
     std::vector<GlobHandle<Glob>> modal_;
+    // A modal glob that closes when the user clicks outside it, and who hears of it.
+    struct ModalContext {
+        GlobHandle<Glob> modal;
+        GlobHandle<Glob> context;
+    };
+    std::vector<ModalContext> contexts_;
     std::vector<GlobHandle<Glob>> doomed_;
     std::vector<Glob*> timerGlobs_;
     MessageQueue queue_;

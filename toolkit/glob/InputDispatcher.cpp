@@ -156,6 +156,8 @@ void InputDispatcher::dispatch(const Event& event) {
         if (moveWithMouse(e)) return;
         if (e.type() == Event::kMouseDown && !outsideWatchers_.empty() && pressedOutside(e)) return;
         Glob* target = targetForMouse(e);
+        // A press that no glob at or above the modal one takes is outside it.
+        if (!target && e.type() == Event::kMouseDown && GlobManager::instance().dismissModalContext()) return;
         if (e.type() == Event::kMouseMove || e.type() == Event::kMouseDown) updateHover(capture_.get() ? capture_.get() : target);
         if (!target) return;
         if (e.type() == Event::kMouseDown) {

@@ -31,6 +31,13 @@ TEST(SdlBackend, MouseEventsFlipToBottomUpAndKeepTheirButton) {
     e.motion.x = 3;
     e.motion.y = 100;
     EXPECT_EQ(translate(e).screenPos(), XY<int>(3, 499));
+    // A move with a button held is part of a drag with that button.
+    e.motion.state = SDL_BUTTON_LMASK;
+    EXPECT_TRUE(mouse_left_event(translate(e)));
+    e.motion.state = SDL_BUTTON_RMASK;
+    EXPECT_TRUE(mouse_right_event(translate(e)));
+    e.motion.state = 0;
+    EXPECT_EQ(translate(e).button(), Event::kNoButton);
 }
 
 TEST(SdlBackend, KeysMapToToolkitCodesAndModifiers) {

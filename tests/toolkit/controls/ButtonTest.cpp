@@ -118,3 +118,28 @@ TEST_F(Buttons, AButtonWidgetOffersItsValueAndShowsTheValueItIsGiven) {
     EXPECT_EQ(c->getWidgetValue(), 40);
     EXPECT_EQ(host->messages.size(), 1u) << "a value from the data does not click";
 }
+
+TEST_F(Buttons, StatesComeThroughOneVirtualAndShowTheirColours) {
+    struct Recording : Button {
+        using Button::Button;
+        void switchState(button_state s, bool redraw) override {
+            seen.push_back(s);
+            Button::switchState(s, redraw);
+        }
+        std::vector<button_state> seen;
+    };
+    auto* b = add<Recording>(Button::InitArgs(L"", WidgetCallback(), 60, 30));
+    b->setLatching(true);
+    b->setStateColour(Button::kButtonDown, Colour(0.0, 0.0, 1.0));
+    TestKit::click(TestKit::centreOf(b));
+    TestKit::pump();
+    EXPECT_EQ(b->getState(), Button::kButtonDown);
+    EXPECT_TRUE(b->isLatched());
+    TestKit::mouseMove({5, 5});
+    TestKit::pump();
+    EXPECT_TRUE(TestKit::pixelNear(b, b->width() / 2, b->height() / 2, 0xFF0000FFu, 2)) << "the down state's own colour";
+
+    b->setState(7, 1);
+    EXPECT_EQ(b->getState(), Button::kButtonUp) << "a number that names no state counts as up";
+    EXPECT_EQ(b->seen.size(), 3u);
+}

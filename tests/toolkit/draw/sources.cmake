@@ -1,5 +1,6 @@
 list(APPEND GLOBKIT_TEST_SOURCES
   toolkit/draw/CanvasTest.cpp
+  toolkit/draw/DrawHelpersTest.cpp
   toolkit/draw/HTMLParseTest.cpp
   toolkit/draw/HTMLRendererTest.cpp
   toolkit/draw/HTMLUtilsTest.cpp

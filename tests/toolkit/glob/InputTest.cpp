@@ -169,3 +169,50 @@ TEST_F(Input, TheCogsOpenThePanelsMenuAndTheDoItButtonPostsItsMainMessage) {
     EXPECT_NE(p->getOpenMenu(), nullptr);
     EXPECT_EQ(p->doIts, 1);
 }
+
+namespace {
+
+// A panel that counts the "menu_poot" messages it is told.
+class ContextPanel : public StandardPanel {
+public:
+    ContextPanel() : StandardPanel(InitArgs(100, 100)) {}
+    int handleMessageEvent(const LightweightString<char>& message, Glob*) override {
+        if (message == GlobManager::dismissedMsg) ++dismissals;
+        return 1;
+    }
+    int dismissals = 0;
+};
+
+} // namespace
+
+TEST_F(Input, APressOutsideAModalContextGlobDismissesItAndTellsItsContext) {
+    Owned<ContextPanel> owner(TestKit::realize(new ContextPanel, {0, 0}));
+    StandardPanel* dropped = makeRootPanel(60, 60, {300, 300});
+    Block* inside = addBlock(dropped, Glob::BottomLeft(0, 0), 60, 60);
+    owner->setModalContextGlob(dropped);
+    const IdStamp stamp = dropped->stamp();
+
+    TestKit::click({320, 320});
+    TestKit::pump();
+    EXPECT_FALSE(inside->events.empty());
+    EXPECT_EQ(owner->dismissals, 0);
+
+    TestKit::click({20, 20});
+    TestKit::pump();
+    EXPECT_FALSE(EventHandler::valid(dropped, stamp));
+    EXPECT_EQ(owner->dismissals, 1);
+    EXPECT_EQ(GlobManager::instance().topModal(), nullptr);
+
+    TestKit::click({20, 20});
+    TestKit::pump();
+    EXPECT_EQ(owner->dismissals, 1) << "the press that dismissed went no further, and nothing more is told";
+}
+
+TEST_F(Input, AModalDialogueThatIsItsOwnContextStaysAfterAPressOutside) {
+    Owned<StandardPanel> dialog(makeRootPanel(60, 60, {300, 300}));
+    dialog->setModalContextGlob(dialog.get());
+    TestKit::click({20, 20});
+    TestKit::pump();
+    EXPECT_EQ(GlobManager::instance().topModal(), dialog.get());
+    GlobManager::instance().removeModalGlob(dialog.get());
+}

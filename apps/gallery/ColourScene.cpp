@@ -1,0 +1,146 @@
+// Colour: one colour shown on a hue-saturation wheel, in HSV, RGB, hexadecimal and
+// alpha boxes and in sliders, all bound to one value; and a drop-down button that
+// opens a small panel of named colours, which can be torn off.
+#include "GalleryScene.h"
+
+#include "colour/AlphaSliderAdaptor.h"
+#include "colour/AlphaTextAdaptor.h"
+#include "colour/ColourComponentAdaptor.h"
+#include "colour/ComponentTextBox.h"
+#include "colour/HSColourWheel.h"
+#include "colour/HexColourAdaptor.h"
+#include "colour/LuminanceAdaptor.h"
+#include "colour/RGBComponentAdaptor.h"
+#include "controls/Slider.h"
+#include "core/Utf8.h"
+#include "draw/Screen.h"
+#include "glob/GlobManager.h"
+#include "panels/DropDownButtonEx.h"
+#include "value/ValAdaptor.h"
+
+namespace {
+
+using TextAdaptor = Zn::Ptr<ValAdaptorBase<LightweightString<wchar_t>>>;
+using SliderAdaptor = Zn::Ptr<ValAdaptorBase<double>>;
+
+// The panel a drop-down button opens: a few named colours, each a button that
+// tells the owner which it is.
+class SwatchPanel : public StandardPanel {
+public:
+    using InitArgs = StandardPanel::InitArgs;
+    explicit SwatchPanel(const InitArgs& args) : StandardPanel(args) {
+        setBorder(Border(Border::kDropMenuBorder, static_cast<unsigned short>(UifStd::instance().getIndentWidth()), 15));
+        const int gap = UifStd::instance().getWidgetGap(), row = UifStd::instance().getRowHeight();
+        const wchar_t* names[] = {L"Red", L"Amber", L"Teal"};
+        Glob* last = nullptr;
+        for (const wchar_t* n : names) {
+            Button::InitArgs b(UIString(n), WidgetCallback(toUTF8(n)), static_cast<unsigned short>(getUserArea().width() - 2 * gap),
+                               static_cast<unsigned short>(row));
+            last = createWidget<Button>(b, last ? Glob::Below(gap, last) : Glob::UserTopLeft(gap, gap));
+        }
+    }
+    const char* idstring() const override { return "SwatchPanel"; }
+    int handleMessageEvent(const LightweightString<char>& message, Glob* sender) override {
+        if (sender && sender->parent() == this) {
+            sendMsg(logicalParent(), message.c_str());
+            return 1;
+        }
+        return StandardPanel::handleMessageEvent(message, sender);
+    }
+    static int calcHeight() {
+        const int gap = UifStd::instance().getWidgetGap(), row = UifStd::instance().getRowHeight();
+        return 3 * row + 4 * gap + 2 * UifStd::instance().getIndentWidth();
+    }
+};
+
+class ColourPanel : public StandardPanel {
+public:
+    explicit ColourPanel(const InitArgs& args) : StandardPanel(args) {}
+    const char* idstring() const override { return "ColourPanel"; }
+    int handleMessageEvent(const LightweightString<char>& message, Glob* sender) override {
+        if (message == "Red") colour = ColourData(1.0, 0.1, 0.1, kColourSpaceRGB, colour.value().getAlpha());
+        if (message == "Amber") colour = ColourData(1.0, 0.75, 0.0, kColourSpaceRGB, colour.value().getAlpha());
+        if (message == "Teal") colour = ColourData(0.0, 0.5, 0.5, kColourSpaceRGB, colour.value().getAlpha());
+        return StandardPanel::handleMessageEvent(message, sender);
+    }
+    ValServer<ColourData> colour{ColourData(200.0, 0.6, 0.9, kColourSpaceHSV, 1.0)};
+};
+
+void buildColour() {
+    const UifStd& u = UifStd::instance();
+    const int gap = u.getWidgetGap(), row = u.getRowHeight();
+    const int wheelSide = 220, boxWidth = 150, entry = 70;
+    Drawable::disableRedraws();
+    auto* p =
+        GalleryScene::makePanel<ColourPanel>(wheelSide + 2 * boxWidth + 6 * gap, 9 * (row + gap) + u.getTitleHeight() + 2 * gap, L"Colour", {60, 0});
+    const Screen& screen = GlobManager::instance().screen();
+    p->setupRootPos({60, screen.height() - 80 - p->height()});
+    ValServer<ColourData>* colour = &p->colour;
+
+    HSColourWheel::InitArgs wheelArgs(wheelSide, wheelSide);
+    auto* wheel = p->createWidget<HSColourWheel>(wheelArgs, Glob::UserTopLeft(gap, gap));
+    wheel->setName("wheel");
+    wheel->setDataAdaptor(Zn::Ptr<ValAdaptorBase<ColourData>>(new ValAdaptor<ColourData, ColourData>(colour)));
+
+    auto box = [&](const char* name, const wchar_t* legend, TextAdaptor adaptor, Glob* below, Glob* beside) {
+        TitleTextBox::InitArgs args(UIString(legend), entry, boxWidth, static_cast<unsigned short>(row));
+        auto* b = p->createWidget<ComponentTextBox>(args, below ? Glob::Below(gap, below) : Glob::RightOf(gap, beside, kAlignEnd));
+        b->setName(name);
+        b->setDataAdaptor(adaptor);
+        return b;
+    };
+    auto* h = box("hue", L"H", TextAdaptor(new ColourComponentAdaptor(0, kColourSpaceHSV, colour)), nullptr, wheel);
+    auto* s = box("saturation", L"S", TextAdaptor(new ColourComponentAdaptor(1, kColourSpaceHSV, colour)), h, nullptr);
+    auto* v = box("value", L"V", TextAdaptor(new ColourComponentAdaptor(2, kColourSpaceHSV, colour)), s, nullptr);
+    auto* r = box("red", L"R", TextAdaptor(new ColourComponentAdaptor(0, kColourSpaceRGB, colour)), nullptr, h);
+    auto* g = box("green", L"G", TextAdaptor(new ColourComponentAdaptor(1, kColourSpaceRGB, colour)), r, nullptr);
+    auto* b = box("blue", L"B", TextAdaptor(new ColourComponentAdaptor(2, kColourSpaceRGB, colour)), g, nullptr);
+    auto* a = box("alpha", L"A", TextAdaptor(new AlphaTextAdaptor(colour)), v, nullptr);
+    TitleTextBox::InitArgs hexArgs(UIString(L"Hex"), entry, boxWidth, static_cast<unsigned short>(row));
+    auto* hex = p->createWidget<TitleTextBox>(hexArgs, Glob::Below(gap, b));
+    hex->setName("hex");
+    hex->setCharacters(L"0123456789ABCDEFabcdef", TextBoxBase::kOnlyCharacters);
+    hex->getTextBox()->setSizeLimit(6);
+    hex->setDataAdaptor(TextAdaptor(new HexColourAdaptor(colour)));
+
+    const unsigned short sliderWidth = static_cast<unsigned short>(2 * boxWidth + gap);
+    Glob* above = a;
+    auto slider = [&](const char* name, const Colour& c, SliderAdaptor adaptor) {
+        Slider::InitArgs args(c, sliderWidth);
+        auto* sl = p->createWidget<Slider>(args, Glob::Below(gap, above));
+        sl->setName(name);
+        sl->setDataAdaptor(adaptor);
+        above = sl;
+    };
+    slider("red-slider", Colour(0.8, 0.2, 0.2), SliderAdaptor(new RGBComponentAdaptor(0, colour)));
+    slider("green-slider", Colour(0.2, 0.7, 0.2), SliderAdaptor(new RGBComponentAdaptor(1, colour)));
+    slider("blue-slider", Colour(0.2, 0.3, 0.9), SliderAdaptor(new RGBComponentAdaptor(2, colour)));
+    slider("luminance", Colour(0.7, 0.7, 0.7), SliderAdaptor(new LuminanceAdaptor(colour)));
+    slider("alpha-slider", Colour(0.5, 0.5, 0.5), SliderAdaptor(new AlphaSliderAdaptor(colour)));
+
+    using SwatchButton = DropDownButtonEx<SwatchPanel>;
+    SwatchButton::InitArgs dropArgs(
+        static_cast<unsigned short>(wheelSide), static_cast<unsigned short>(row),
+        SwatchPanel::InitArgs(static_cast<unsigned short>(wheelSide), static_cast<unsigned short>(SwatchPanel::calcHeight())));
+    dropArgs.label = UIString(L"Named colours");
+    auto* drop = p->createWidget<SwatchButton>(dropArgs, Glob::Below(gap, wheel));
+    drop->setName("named-colours");
+    drop->setDropMode(SwatchButton::kDetachableDrop);
+
+    for (Glob* w : p->getChildren())
+        if (auto* t = dynamic_cast<TitleTextBox*>(w)) t->getDataAdaptor()->forceWidgetUpdate(kNoRedraw);
+    for (Glob* w : p->getChildren())
+        if (auto* sl = dynamic_cast<Slider*>(w)) sl->getDataAdaptor()->forceWidgetUpdate(kNoRedraw);
+    wheel->getDataAdaptor()->forceWidgetUpdate(kNoRedraw);
+
+    GlobManager::instance().realize(p);
+    Drawable::enableRedraws();
+    GlobManager::instance().runUntilIdle();
+}
+
+GallerySceneRegistration colour("colour",
+                                "A colour on a hue-saturation wheel, in HSV, RGB, hexadecimal and alpha boxes and sliders, "
+                                "all bound to one value; a drop-down of named colours that can be torn off",
+                                buildColour);
+
+} // namespace

@@ -1,0 +1,3 @@
+list(APPEND MOSAIC_SOURCES
+  panels/calcDropDownPos.cpp
+)
