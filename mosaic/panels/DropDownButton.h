@@ -4,7 +4,7 @@
 #include "controls/DropDownButtonInitArgs.h"
 #include "draw/CanvasRenderer.h"
 #include "draw/UifStd.h"
-#include "frame/GlobHandle.h"
+#include "glob/GlobHandle.h"
 #include "glob/GlobManager.h"
 #include "glob/Messaging.h"
 #include "glob/fireCallback.h"

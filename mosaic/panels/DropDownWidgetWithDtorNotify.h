@@ -3,7 +3,7 @@
 #include "controls/StandardPanel.h"
 #include "draw/CanvasRenderer.h"
 #include "draw/UifStd.h"
-#include "frame/GlobHandle.h"
+#include "glob/GlobHandle.h"
 #include "glob/GlobManager.h"
 #include "glob/InputDispatcher.h"
 #include "glob/Messaging.h"

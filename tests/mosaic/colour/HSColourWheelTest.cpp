@@ -4,7 +4,7 @@
 #include "colour/HexColourAdaptor.h"
 #include "core/FloatFromWString.h"
 #include "draw/UifStd.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 #include "value/ValAdaptor.h"
 
 #include <cmath>

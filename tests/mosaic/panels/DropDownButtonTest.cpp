@@ -2,7 +2,7 @@
 #include "draw/Screen.h"
 #include "draw/UifStd.h"
 #include "panels/DropDownButtonEx.h"
-#include "testing/TestKit.h"
+#include "testkit/TestKit.h"
 
 #include <string>
 #include <vector>
