@@ -1,4 +1,5 @@
 #include "SdlBackend.h"
+#include "CursorPicture.h"
 #include "XdndDragSource.h"
 
 #include "core/Utf8.h"
@@ -29,6 +30,20 @@ struct SdlBackend::Impl {
 };
 
 namespace {
+
+// A cursor from its drawn picture, or null for one the system draws (or when SDL
+// cannot make it, and the system's stand-in is used).
+SDL_Cursor* makeCursor(MouseCursorID id) {
+    const auto picture = CursorPicture::draw(id);
+    if (!picture) return nullptr;
+    // SDL copies the pixels into the cursor, so the surface may go at once.
+    SDL_Surface* surface = SDL_CreateRGBSurfaceWithFormatFrom(const_cast<std::uint32_t*>(picture->pixels().data()), CursorPicture::kSize,
+                                                              CursorPicture::kSize, 32, CursorPicture::kSize * 4, SDL_PIXELFORMAT_ARGB8888);
+    if (!surface) return nullptr;
+    SDL_Cursor* cursor = SDL_CreateColorCursor(surface, picture->hotspot().x, picture->hotspot().y);
+    SDL_FreeSurface(surface);
+    return cursor;
+}
 
 int mapKey(SDL_Keycode k) {
     switch (k) {
@@ -134,14 +149,18 @@ bool SdlBackend::open(const char* title) {
     }
     impl_->renderer = SDL_CreateRenderer(impl_->window, -1, 0);
     if (!impl_->renderer) impl_->renderer = SDL_CreateRenderer(impl_->window, -1, SDL_RENDERER_SOFTWARE);
-    // SDL has no cursors of its own for dragging a marker or picking a colour: a
-    // hand and a crosshair stand in.
+    // SDL has no cursors of its own for dragging a marker or picking a colour: those
+    // are drawn here.
     static const SDL_SystemCursor shapes[] = {SDL_SYSTEM_CURSOR_ARROW,   SDL_SYSTEM_CURSOR_IBEAM,    SDL_SYSTEM_CURSOR_CROSSHAIR,
                                               SDL_SYSTEM_CURSOR_SIZEALL, SDL_SYSTEM_CURSOR_HAND,     SDL_SYSTEM_CURSOR_HAND,
                                               SDL_SYSTEM_CURSOR_SIZEWE,  SDL_SYSTEM_CURSOR_SIZENS,   SDL_SYSTEM_CURSOR_WAIT,
                                               SDL_SYSTEM_CURSOR_NO,      SDL_SYSTEM_CURSOR_CROSSHAIR};
     static_assert(std::size(shapes) == std::extent_v<decltype(Impl::cursors)>);
-    for (std::size_t i = 0; i < std::size(shapes); ++i) impl_->cursors[i] = SDL_CreateSystemCursor(shapes[i]);
+    for (std::size_t i = 0; i < std::size(shapes); ++i) {
+        const auto id = static_cast<MouseCursorID>(kCursorArrow + static_cast<int>(i));
+        impl_->cursors[i] = makeCursor(id);
+        if (!impl_->cursors[i]) impl_->cursors[i] = SDL_CreateSystemCursor(shapes[i]);
+    }
     SDL_StartTextInput();
     installSystemClipboard();
     installFileDrag();

@@ -1,4 +1,5 @@
 list(APPEND GLOBKIT_SOURCES
+  backend/CursorPicture.cpp
   backend/SdlBackend.cpp
   backend/XdndDragSource.cpp
 )
