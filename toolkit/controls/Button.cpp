@@ -5,6 +5,9 @@
 #include "draw/CanvasRenderer.h"
 #include "draw/UifStd.h"
 #include "glob/fireCallback.h"
+#include "image/IconCache.h"
+
+#include <algorithm>
 
 Button::Button(const InitArgs& args) : Clickable(args), callback_(args.callback), label_(args.label) { font_ = UifStd::instance().getDefaultFont(); }
 
@@ -44,6 +47,50 @@ void Button::setStateColour(button_state state, const Colour& colour) {
     hasStateColour_[state] = true;
 }
 
+void Button::setCols(const Colour& face, const Colour& text) {
+    setStateColour(kButtonUp, face);
+    textColours_[kButtonUp] = text;
+    redraw();
+}
+
+void Button::setDownCols(const Colour& face, const Colour& text) {
+    setStateColour(kButtonDown, face);
+    textColours_[kButtonDown] = text;
+    redraw();
+}
+
+void Button::setIcon(const LightweightString<wchar_t>& path, eRedrawFlag flag) {
+    iconPath_ = path;
+    icon_ = path.empty() ? Zn::Ptr<iHostImage>() : IconCache::instance().get(path);
+    if (flag == kRedraw) redraw();
+}
+
+void Button::setGlyph(std::optional<ArrowGlyph::eDirection> glyph, eRedrawFlag flag) {
+    glyph_ = glyph;
+    if (flag == kRedraw) redraw();
+}
+
+void Button::autoResize() {
+    int w = label_.empty() ? 0 : calcSizeFor(label_, getFont()).x;
+    if (hasPicture()) w += label_.empty() ? height() : iconBox().x2;
+    resize(std::max(w, height()), height());
+}
+
+BoxInt Button::iconBox() const {
+    const int margin = std::max(2, height() / 8);
+    const int side = std::max(0, std::min(width(), height()) - 2 * margin);
+    if (label_.empty()) {
+        const int x = (width() - side) / 2, y = (height() - side) / 2;
+        return BoxInt(x, y, x + side, y + side);
+    }
+    return BoxInt(margin, margin, margin + side, margin + side);
+}
+
+BoxInt Button::labelBox() const {
+    if (!hasPicture()) return BoxInt(0, 0, width(), height());
+    return BoxInt(iconBox().x2 + UifStd::instance().getWidgetGap(), 0, width(), height());
+}
+
 int Button::calcHeight() { return UifStd::instance().getRowHeight(); }
 
 void Button::drawBackground() {
@@ -56,11 +103,17 @@ void Button::drawBackground() {
     } else {
         drawFace(BoxInt(0, 0, width(), height()), style_ != kRaised, down);
     }
+    CanvasRenderer r(canvas());
+    if (icon_)
+        r.render(Glib::ImageDescription(icon_, icon_->fittedInto(iconBox()), isActive() ? 1.0 : 0.4));
+    else if (glyph_)
+        ArrowGlyph::draw(r, iconBox(), *glyph_, getPalette().text(isActive() ? kTextNormal : kTextDimmed));
     drawLabel(label_, labelBox());
 }
 
 void Button::drawLabel(const UIString& text, const BoxInt& box) const {
-    Colour ink = getPalette().text(isActive() ? kTextNormal : kTextDimmed);
+    const std::optional<Colour>& own = textColours_[state_];
+    Colour ink = own && isActive() ? *own : getPalette().text(isActive() ? kTextNormal : kTextDimmed);
     Glib::TextDescription t(box, text.getString(), getFont(), ink, Glib::kAlignCentreH);
     t.ellipsize = true;
     CanvasRenderer(canvas()).render(t);

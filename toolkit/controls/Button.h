@@ -1,12 +1,18 @@
 #pragma once
 
+#include "ArrowGlyph.h"
 #include "Clickable.h"
 #include "core/WidgetCallback.h"
 #include "draw/FontDesc.h"
+#include "image/iHostImage.h"
 #include "platform/UIString.h"
 
-/// A push button with a text label. A click fires its WidgetCallback: the callback
-/// when there is one, otherwise the callback's message to the owner.
+#include <optional>
+
+/// A push button with a text label and, if given, an icon or an arrow glyph at the
+/// label's left (alone in the middle when there is no label). A click fires its
+/// WidgetCallback: the callback when there is one, otherwise the callback's message
+/// to the owner.
 class Button : public Clickable, public Glib::FontUser {
 public:
     /// What a Button is made from: its label and what a click does.
@@ -50,6 +56,19 @@ public:
     virtual void switchState(button_state state, bool redraw);
     // The face's colour in a state, instead of the palette's shade for it.
     void setStateColour(button_state state, const Colour& colour);
+    // The face and label colours while up, and while down (latched or held down).
+    void setCols(const Colour& face, const Colour& text);
+    void setDownCols(const Colour& face, const Colour& text);
+
+    // A picture by path; an empty path, or one that cannot be read, leaves none.
+    void setIcon(const LightweightString<wchar_t>& path, eRedrawFlag flag = kRedraw);
+    const LightweightString<wchar_t>& getIconPath() const { return iconPath_; }
+    bool hasIcon() const { return static_cast<bool>(icon_); }
+    // A drawn arrow in the icon's place; none removes it. An icon wins over a glyph.
+    void setGlyph(std::optional<ArrowGlyph::eDirection> glyph, eRedrawFlag flag = kRedraw);
+    std::optional<ArrowGlyph::eDirection> getGlyph() const { return glyph_; }
+    // Takes the width that shows the label and the icon or glyph; the height stays.
+    void autoResize();
 
     // The size that shows `label` in `font` with the usual margins.
     static XY<int> calcSizeFor(const UIString& label, const Glib::FontDesc& font = {});
@@ -60,8 +79,11 @@ public:
 
 protected:
     void clicked() override;
-    // The box the label is drawn in; a subclass may keep room for more.
-    virtual BoxInt labelBox() const { return BoxInt(0, 0, width(), height()); }
+    // The box the label is drawn in, right of the icon when there is one.
+    virtual BoxInt labelBox() const;
+    // Where the icon or glyph goes: a square at the left, or the middle when there is no label.
+    BoxInt iconBox() const;
+    bool hasPicture() const { return icon_ || glyph_; }
     void drawLabel(const UIString& text, const BoxInt& box) const;
 
 private:
@@ -73,4 +95,8 @@ private:
     button_state state_ = kButtonUp;
     Colour stateColours_[2];
     bool hasStateColour_[2] = {false, false};
+    std::optional<Colour> textColours_[2];
+    LightweightString<wchar_t> iconPath_;
+    Zn::Ptr<iHostImage> icon_;
+    std::optional<ArrowGlyph::eDirection> glyph_;
 };

@@ -7,7 +7,12 @@ int Clickable::react(const Event& e) {
     if (!isActive()) return mouse_event(e) ? 1 : 0;
     clickModifiers_ = e.modifiers();
     const BoxInt self(0, 0, width(), height());
+    if (ignoreMouseClicks_ && mouse_event(e)) return 1;
     if (mouse_down_event(e) && mouse_left_event(e)) {
+        if (!messageOnMouseUp_) {
+            clicked();
+            return 1;
+        }
         pressed_ = armed_ = true;
         redraw();
         return 1;

@@ -15,6 +15,14 @@ public:
     // Held down with the mouse still over it.
     bool isPressed() const { return pressed_ && armed_; }
 
+    // By default a click is made as the button is released over the control; false
+    // makes it as the button goes down.
+    void setMessageOnMouseUp(bool onUp) { messageOnMouseUp_ = onUp; }
+    bool messageOnMouseUp() const { return messageOnMouseUp_; }
+    // A control that ignores mouse clicks still shows itself and takes the keys.
+    void setIgnoreMouseClicks(bool ignore) { ignoreMouseClicks_ = ignore; }
+    bool ignoresMouseClicks() const { return ignoreMouseClicks_; }
+
     int react(const Event& e) override;
     void handleMouseContainment(bool inside) override;
     bool acceptsKbdFocus() const override { return isActive() && isVisible(); }
@@ -37,5 +45,7 @@ private:
     bool hovered_ = false;
     bool pressed_ = false;
     bool armed_ = false;
+    bool messageOnMouseUp_ = true;
+    bool ignoreMouseClicks_ = false;
     unsigned clickModifiers_ = 0;
 };

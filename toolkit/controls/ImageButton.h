@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Button.h"
-#include "image/iHostImage.h"
 
 /// A button that shows a picture (an icon by path), and its label, if any, at
 /// the picture's right. A picture that cannot be read leaves a plain button.
@@ -19,18 +18,7 @@ public:
     ~ImageButton() override = default;
     const char* idstring() const override { return "ImageButton"; }
 
-    void setImage(const LightweightString<wchar_t>& path, eRedrawFlag flag = kRedraw);
-    const LightweightString<wchar_t>& getImagePath() const { return path_; }
-    bool hasImage() const { return static_cast<bool>(image_); }
-
-    void drawBackground() override;
-
-protected:
-    BoxInt labelBox() const override;
-    // Where the picture goes: a square at the left, or the middle when there is no label.
-    BoxInt imageBox() const;
-
-private:
-    LightweightString<wchar_t> path_;
-    Zn::Ptr<iHostImage> image_;
+    void setImage(const LightweightString<wchar_t>& path, eRedrawFlag flag = kRedraw) { setIcon(path, flag); }
+    const LightweightString<wchar_t>& getImagePath() const { return getIconPath(); }
+    bool hasImage() const { return hasIcon(); }
 };

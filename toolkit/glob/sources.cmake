@@ -1,6 +1,7 @@
 list(APPEND GLOBKIT_SOURCES
   glob/CanvasStack.cpp
   glob/Drawable.cpp
+  glob/destroyAfterCall.cpp
   glob/EventHandler.cpp
   glob/FileDrag.cpp
   glob/fireCallback.cpp

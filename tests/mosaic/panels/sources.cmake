@@ -1,3 +1,4 @@
 list(APPEND MOSAIC_TEST_SOURCES
   mosaic/panels/DropDownButtonTest.cpp
+  mosaic/panels/PageIndexWidgetTest.cpp
 )

@@ -143,3 +143,60 @@ TEST_F(Buttons, StatesComeThroughOneVirtualAndShowTheirColours) {
     EXPECT_EQ(b->getState(), Button::kButtonUp) << "a number that names no state counts as up";
     EXPECT_EQ(b->seen.size(), 3u);
 }
+
+TEST_F(Buttons, AClickCanComeOnThePressAndMouseClicksCanBeIgnoredWhileKeysStillWork) {
+    Button* b = button();
+    b->setMessageOnMouseUp(false);
+    TestKit::mouseDown(TestKit::centreOf(b));
+    EXPECT_EQ(host->messages.size(), 1u) << "the press itself clicks";
+    TestKit::mouseUp(TestKit::centreOf(b));
+    EXPECT_EQ(host->messages.size(), 1u) << "and the release adds nothing";
+
+    b->setMessageOnMouseUp(true);
+    b->setIgnoreMouseClicks(true);
+    TestKit::click(b);
+    EXPECT_EQ(host->messages.size(), 1u);
+    ASSERT_TRUE(b->claimKbdFocus());
+    TestKit::pressKey(Keys::Space);
+    EXPECT_EQ(host->messages.size(), 2u);
+}
+
+TEST_F(Buttons, OwnColoursPaintTheFaceAndTheLabelUpAndDown) {
+    Button* b = button();
+    b->setLatching(true);
+    b->setCols(Colour(0.0, 0.5, 0.0), Colour(1.0, 1.0, 0.0));
+    b->setDownCols(Colour(0.0, 0.0, 0.5), Colour(1.0, 0.0, 1.0));
+    TestKit::pump();
+    EXPECT_TRUE(TestKit::pixelNear(b, facePoint(b).x, facePoint(b).y, 0xFF008000u, 2));
+    EXPECT_GT(TestKit::countPixels(b, BoxInt(20, 4, 100, 26), Colour(1.0, 1.0, 0.0), 60), 10) << "a yellow label";
+    b->setLatched(true);
+    TestKit::pump();
+    EXPECT_TRUE(TestKit::pixelNear(b, facePoint(b).x, facePoint(b).y, 0xFF000080u, 2));
+    EXPECT_GT(TestKit::countPixels(b, BoxInt(20, 4, 100, 26), Colour(1.0, 0.0, 1.0), 60), 10) << "a magenta label";
+}
+
+TEST_F(Buttons, AnIconOrAGlyphStandsLeftOfTheLabelAndAutoResizeMakesRoomForIt) {
+    Button* b = button();
+    b->autoResize();
+    const int plain = b->width();
+    EXPECT_EQ(plain, Button::calcWidth(L"Apply"));
+    EXPECT_EQ(b->height(), 30) << "the height stays";
+
+    b->setIcon(L"/no/such/icon.png");
+    b->autoResize();
+    EXPECT_FALSE(b->hasIcon());
+    EXPECT_EQ(b->width(), plain) << "an icon that cannot be read takes no room";
+
+    b->setGlyph(ArrowGlyph::kRight);
+    b->autoResize();
+    EXPECT_GT(b->width(), plain + 20);
+    TestKit::pump();
+    const std::uint32_t face = TestKit::globPixel(b, 2, b->height() / 2);
+    EXPECT_GT(inkPixels(b, BoxInt(4, 4, 26, 26), face, 60), 20) << "the arrow is painted at the left";
+
+    b->setIcon(getIconPath(L"poot"));
+    EXPECT_TRUE(b->hasIcon()) << "a shipped icon is found";
+    b->setLabel(UIString());
+    b->autoResize();
+    EXPECT_EQ(b->width(), b->height()) << "an icon alone makes a square button";
+}
