@@ -81,8 +81,8 @@ void SpaceDivider::layout() {
     // A child's minimum wins over the split; when both cannot be met the first's does.
     const int minA = along(a->getMinSize());
     const int minB = along(b->getMinSize());
-    int first = along(calcWidgetSize(total, kFirst));
-    first = std::max(minA, std::min(first, length - t - minB));
+    const int wanted = along(calcWidgetSize(total, kFirst));
+    int first = std::max(minA, std::min(wanted, length - t - minB));
     a->resize(make(first, across(total)).x, make(first, across(total)).y);
     first = along(a->size());
     const int second = std::max(0, length - (first + t));
@@ -93,7 +93,8 @@ void SpaceDivider::layout() {
     setWidgetPos(b, BottomLeft(start + make(first + t, 0)));
     const XY<int> bar = Splitter::calcDimensions(orientation_, static_cast<unsigned short>(std::max(0, across(total))));
     splitter_->resize(bar.x, bar.y);
-    if (length > 0) splitPos_ = clampPos(static_cast<float>(first + t / 2) / static_cast<float>(length));
+    // What the children accepted becomes the split, when it is not what was asked.
+    if (first != wanted && length > 0) splitPos_ = clampPos(static_cast<float>(first + t / 2) / static_cast<float>(length));
 }
 
 void SpaceDivider::resize(double width, double height) {

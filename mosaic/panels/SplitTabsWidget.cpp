@@ -50,9 +50,12 @@ bool SplitTabsWidget::shouldBeCoalesced() const {
 }
 
 void SplitTabsWidget::calcSplitterRange() {
-    const int half = Splitter::calcThickness() / 2;
-    rangeLow_ = static_cast<unsigned short>(std::max(calcMinWidth(leftPages_), half));
-    rangeHigh_ = static_cast<unsigned short>(std::max(0, userWidth() - std::max(calcMinWidth(rightPages_), half)));
+    // The range is of the splitter's middle, so each end keeps the bar's half beside
+    // the group's minimum: a drag to either end never makes the groups merge.
+    const int t = Splitter::calcThickness();
+    const int half = t / 2;
+    rangeLow_ = static_cast<unsigned short>(calcMinWidth(leftPages_) + half);
+    rangeHigh_ = static_cast<unsigned short>(std::max(0, userWidth() - calcMinWidth(rightPages_) - (t - half)));
 }
 
 void SplitTabsWidget::addMinSizeConstraint(const Glob* glob) {

@@ -1,4 +1,6 @@
 list(APPEND MOSAIC_TEST_SOURCES
   mosaic/panels/DropDownButtonTest.cpp
   mosaic/panels/PageIndexWidgetTest.cpp
+  mosaic/panels/SpaceDividerTest.cpp
+  mosaic/panels/SplitTabsWidgetTest.cpp
 )
