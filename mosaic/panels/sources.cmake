@@ -3,4 +3,6 @@ list(APPEND MOSAIC_SOURCES
   panels/PageIndexWidget.cpp
   panels/SpaceDivider.cpp
   panels/SplitTabsWidget.cpp
+  panels/WizardPanel.cpp
+  panels/WizardStagePanel.cpp
 )

@@ -3,4 +3,5 @@ list(APPEND MOSAIC_TEST_SOURCES
   mosaic/panels/PageIndexWidgetTest.cpp
   mosaic/panels/SpaceDividerTest.cpp
   mosaic/panels/SplitTabsWidgetTest.cpp
+  mosaic/panels/WizardPanelTest.cpp
 )
