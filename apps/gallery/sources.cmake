@@ -11,6 +11,7 @@ list(APPEND GALLERY_SOURCES
   LoggerScene.cpp
   MediaScene.cpp
   MenusScene.cpp
+  NavigationScene.cpp
   PanelsScene.cpp
   ParamsScene.cpp
   ProgressScene.cpp

@@ -1,8 +1,11 @@
 #include "SpaceDivider.h"
 
+#include "controls/TextLabel.h"
 #include "glob/CanvasStack.h"
 #include "glob/UpdateDeferrer.h"
 #include "glob/destroyAfterCall.h"
+#include "glob/makeTopLevel.h"
+#include "platform/CommandRegistrar.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,6 +13,32 @@
 namespace {
 
 float clampPos(float pos) { return std::isnan(pos) ? 0.5f : std::clamp(pos, 0.0f, 1.0f); }
+
+Glob* label(const wchar_t* text) {
+    TextLabel::InitArgs args(UIString(text), 100, 100);
+    args.palette = UifStd::instance().getColourScheme();
+    auto* l = new TextLabel(args);
+    l->setAlignment(Glib::kAlignCentreH);
+    return l;
+}
+
+// A development panel: a divider side by side whose right side is divided again, stacked.
+void openTestPanel() {
+    StandardPanel::InitArgs args(600, 400);
+    auto* panel = makeTopLevel<StandardPanel>(args, Glob::Centre(0, 0));
+    panel->setBorder(StandardPanel::getDefaultBorder());
+    panel->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kTitleBar);
+    panel->setTitle(UIString(L"Space Divider Test"), UifStd::instance().getTitleFont(), kNoRedraw);
+    const BoxInt u = panel->getUserArea();
+    SpaceDivider::InitArgs inner(200, 200, Splitter::kAboveEachOther, label(L"Lower"), label(L"Upper"), 0.5f);
+    inner.palette = panel->getPalette();
+    SpaceDivider::InitArgs outer(static_cast<unsigned short>(u.width()), static_cast<unsigned short>(u.height()), Splitter::kSideBySide,
+                                 label(L"Left"), new SpaceDivider(inner), 0.4f);
+    panel->createWidget<SpaceDivider>(outer, Glob::UserBottomLeft(0, 0))->setName("spaceDivider");
+    panel->redraw();
+}
+
+const CommandRegistrar command("Space Divider Test", [](const Zn::Ptr<iObject>&) { openTestPanel(); });
 
 } // namespace
 

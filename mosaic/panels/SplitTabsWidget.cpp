@@ -1,8 +1,12 @@
 #include "SplitTabsWidget.h"
 
+#include "controls/TextLabel.h"
+#include "draw/UifStd.h"
 #include "glob/CanvasStack.h"
 #include "glob/UpdateDeferrer.h"
 #include "glob/destroyAfterCall.h"
+#include "glob/makeTopLevel.h"
+#include "platform/CommandRegistrar.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,6 +15,32 @@ namespace {
 
 // The tab flags of the two styles: tall tabs sharing the width, or the standard ones.
 constexpr unsigned kStyledTabs = TabbedDialogue::kTallTabs | TabbedDialogue::kKeyboardTabs | TabbedDialogue::kFramedPages | TabbedDialogue::kEvenTabs;
+
+SplitTabsWidget::Page page(const wchar_t* text, const wchar_t* tab) {
+    TextLabel::InitArgs args(UIString(text), 100, 100);
+    args.palette = UifStd::instance().getColourScheme();
+    auto* l = new TextLabel(args);
+    l->setAlignment(Glib::kAlignCentreH);
+    return {l, UIString(tab)};
+}
+
+// A development panel that can be resized across the width at which the tabs merge.
+void openTestPanel() {
+    StandardPanel::InitArgs args(700, 400);
+    auto* panel = makeTopLevel<StandardPanel>(args, Glob::Centre(0, 0));
+    panel->setBorder(StandardPanel::getDefaultBorder());
+    panel->addStandardWidgets(StandardPanel::kCloseBox | StandardPanel::kTitleBar);
+    panel->setTitle(UIString(L"SplitTabsWidget test"), UifStd::instance().getTitleFont(), kNoRedraw);
+    const BoxInt u = panel->getUserArea();
+    SplitTabsWidget::InitArgs tabs(static_cast<unsigned short>(u.width()), static_cast<unsigned short>(u.height()));
+    tabs.leftPages = {page(L"Left One", L"L1"), page(L"Left Two", L"L2")};
+    tabs.rightPages = {page(L"Right One", L"R1"), page(L"Right Two", L"R2")};
+    tabs.coalesceWidth = 500;
+    panel->createWidget<SplitTabsWidget>(tabs, Glob::UserBottomLeft(0, 0))->setName("splitTabs");
+    panel->redraw();
+}
+
+const CommandRegistrar command("SplitTabsWidgetTest", [](const Zn::Ptr<iObject>&) { openTestPanel(); });
 
 } // namespace
 
