@@ -4,6 +4,7 @@
 #include "core/WStringFromInteger.h"
 #include "draw/UifStd.h"
 #include "glob/Messaging.h"
+#include "glob/UpdateDeferrer.h"
 #include "glob/destroyAfterCall.h"
 
 #include <algorithm>
@@ -24,13 +25,10 @@ LightweightString<char> decimal(long value) { return LightweightString<char>(std
 PageIndexWidget::PageIndexWidget(const InitArgs& args)
     : StandardPanel(StandardPanel::InitArgs(args, Border(Border::kNoBorder, 0, 15))), maxVisible_(std::max<unsigned char>(1, args.maxVisible)),
       callback_(args.callback), message_(args.message) {
-    const auto row = static_cast<unsigned short>(UifStd::instance().getRowHeight());
     prev_ = makeEndButton(L"<", &PageIndexWidget::handlePrevClick, BottomLeft(0, 0));
     next_ = makeEndButton(L">", &PageIndexWidget::handleNextClick, BottomRight(0, 0));
 
-    WidgetHost::InitArgs stripArgs(static_cast<unsigned short>(std::max(1, calcWidth(args.currentPage, args.numPages, maxVisible_))), row);
-    strip_ = createWidget<WidgetHost>(stripArgs, Centre(0, 0));
-    strip_->setName("pageStrip");
+    makeStrip(calcWidth(args.currentPage, args.numPages, maxVisible_));
 
     TextLabel::InitArgs labelArgs(args.emptyLabel, static_cast<unsigned short>(width()), static_cast<unsigned short>(height()),
                                   Glib::FontDesc(getZnUtilityFontName(), getZnUtilityFontSize()));
@@ -42,6 +40,12 @@ PageIndexWidget::PageIndexWidget(const InitArgs& args)
     // With no pages the strip is not rebuilt, so the end buttons are set here too.
     updatePrevAndNextButtons(kNoRedraw);
     showStripOrLabel();
+}
+
+void PageIndexWidget::makeStrip(int width) {
+    WidgetHost::InitArgs args(static_cast<unsigned short>(std::max(1, width)), static_cast<unsigned short>(UifStd::instance().getRowHeight()));
+    strip_ = createWidget<WidgetHost>(args, Centre(0, 0));
+    strip_->setName("pageStrip");
 }
 
 Button* PageIndexWidget::makeEndButton(const wchar_t* text, Handler handler, const WidgetPosition& at) {
@@ -103,9 +107,12 @@ bool PageIndexWidget::setPagesInternal(unsigned short current, unsigned short to
         showStripOrLabel();
         return false;
     }
-    // The button that was clicked may be among these, its callback still running.
-    for (Button* b : numbers_) destroyAfterCall(b);
+    // A new strip takes the old one's place, and the old one goes with all its
+    // buttons at once; the button that was clicked may be among them, its callback
+    // still running.
+    destroyAfterCall(strip_);
     numbers_.clear();
+    makeStrip(calcWidthInternal(first, count));
     first_ = first;
     current_ = current;
     total_ = total;
@@ -134,6 +141,8 @@ void PageIndexWidget::showStripOrLabel() {
 
 void PageIndexWidget::setPages(unsigned short current, unsigned short total) {
     if (current >= total && total != 0) current = static_cast<unsigned short>(total - 1);
+    // A rebuilt strip paints once, not once for every button made and removed.
+    const Glib::UpdateDeferrer oneDraw;
     if (!setPagesInternal(current, total)) return;
     updatePrevAndNextButtons(kNoRedraw);
     strip_->resize(std::max(1, calcWidthInternal(first_, static_cast<unsigned short>(numbers_.size()))), strip_->height());

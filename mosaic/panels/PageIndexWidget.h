@@ -65,6 +65,7 @@ private:
     bool setPagesInternal(unsigned short current, unsigned short total);
     void updatePrevAndNextButtons(eRedrawFlag flag);
     void showStripOrLabel();
+    void makeStrip(int width);
     void informOwner();
     void latch(unsigned short page, bool on);
     Button* buttonOf(unsigned short page) const;

@@ -51,3 +51,18 @@ TEST(GalleryProgram, ACommandOpensByNameAndItsPictureShowsWhatItOpened) {
     EXPECT_FALSE(std::filesystem::exists(dir / "NoSuchCommand.png"));
     if (!HasFailure()) std::filesystem::remove_all(dir);
 }
+
+TEST(GalleryProgram, TheNavigationCommandsOpenTheirPanels) {
+    const auto dir = std::filesystem::temp_directory_path() / ("gallery-navigation-" + std::to_string(::getpid()));
+    const std::pair<const char*, const char*> commands[] = {
+        {"PageIndexWidgetTest", "widget pageIndex PageIndexWidget "},
+        {"'Space Divider Test'", "widget spaceDivider SpaceDivider "},
+        {"SplitTabsWidgetTest", "widget splitTabs SplitTabsWidget "},
+    };
+    for (const auto& [command, widget] : commands) {
+        const TestKit::ProgramRun shown = gallery(dir, std::string("--command ") + command + " --screenshots '" + dir.string() + "' --print-widgets");
+        EXPECT_EQ(shown.status, 0) << shown.output;
+        EXPECT_NE(shown.output.find(widget), std::string::npos) << command << "\n" << shown.output;
+    }
+    if (!HasFailure()) std::filesystem::remove_all(dir);
+}

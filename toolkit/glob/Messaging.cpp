@@ -24,7 +24,9 @@ void setUIThread() { uiThread.store(std::this_thread::get_id()); }
 int co_pid() {
     std::thread::id ui = uiThread.load();
     // Unless told otherwise, the process's first thread is the user-interface thread.
-    bool onUI = ui == std::thread::id() ? gettid() == getpid() : std::this_thread::get_id() == ui;
+    // A thread does not change, so the system is asked once per thread.
+    thread_local const bool firstThread = gettid() == getpid();
+    bool onUI = ui == std::thread::id() ? firstThread : std::this_thread::get_id() == ui;
     if (onUI) return 0;
     static std::atomic<int> next{1};
     thread_local int id = next++;
