@@ -79,7 +79,7 @@ XY<int> SpaceDivider::calcWidgetSize(const XY<int>& total, eWidgetId id) const {
     const int half = t / 2;
     const int length = along(total);
     // Rounded, not cut: a position read back from the sizes gives the same sizes again.
-    const int middle = static_cast<int>(std::lround(length * splitPos_));
+    const int middle = static_cast<int>(std::lround(static_cast<double>(length) * splitPos_));
     const int first = std::clamp(middle - half, 0, std::max(0, length - t));
     const int alongAxis = id == kFirst ? first : std::max(0, length - (first + t));
     return make(alongAxis, across(total));
@@ -123,7 +123,8 @@ void SpaceDivider::layout() {
     const XY<int> bar = Splitter::calcDimensions(orientation_, static_cast<unsigned short>(std::max(0, across(total))));
     splitter_->resize(bar.x, bar.y);
     // What the children accepted becomes the split, when it is not what was asked.
-    if (first != wanted && length > 0) splitPos_ = clampPos(static_cast<float>(first + t / 2) / static_cast<float>(length));
+    const int half = t / 2;
+    if (first != wanted && length > 0) splitPos_ = clampPos(static_cast<float>(first + half) / static_cast<float>(length));
 }
 
 void SpaceDivider::resize(double width, double height) {
@@ -143,7 +144,8 @@ void SpaceDivider::setSplitPosFromWidget(eWidgetId id) {
     if (!w || length <= 0) return;
     const int t = Splitter::calcThickness();
     const int first = id == kFirst ? along(w->size()) : length - t - along(w->size());
-    splitPos_ = clampPos(static_cast<float>(first + t / 2) / static_cast<float>(length));
+    const int half = t / 2;
+    splitPos_ = clampPos(static_cast<float>(first + half) / static_cast<float>(length));
 }
 
 void SpaceDivider::setWidgetVisible(eWidgetId id, bool visible) {

@@ -60,7 +60,7 @@ unsigned SplitTabsWidget::tabFlags() const { return tabStyle_ != 0 ? kStyledTabs
 
 int SplitTabsWidget::calcLeftTabsWidth() const {
     const int half = Splitter::calcThickness() / 2;
-    return std::max(0, static_cast<int>(std::lround(userWidth() * splitPos_)) - half);
+    return std::max(0, static_cast<int>(std::lround(static_cast<double>(userWidth()) * splitPos_)) - half);
 }
 
 int SplitTabsWidget::calcMinWidth(const std::vector<Page>& pages) const {
@@ -99,6 +99,7 @@ void SplitTabsWidget::addMinSizeConstraint(const Glob* glob) {
 
 void SplitTabsWidget::addPages(TabbedDialogue* tabs, const std::vector<Page>& pages) {
     for (const Page& p : pages) {
+        if (!Glob::isLiveGlob(p.glob)) continue;
         const int tab = tabs->addTab(p.title);
         tabs->addPageForTab(static_cast<unsigned char>(tab), p.glob);
     }
@@ -136,7 +137,6 @@ void SplitTabsWidget::createWidgets() {
         for (int i = rightTabs_->numTabs() - 1; i >= 0; --i) rightTabs_->removePage(static_cast<unsigned short>(i), false, kNoRedraw);
         leftTabs_->resize(u.width(), u.height());
         addPages(leftTabs_, rightPages_);
-        for (const Page& p : rightPages_) p.glob->setVisible(leftTabs_->getPage(leftTabs_->getSelectedTab()) == p.glob);
         // The splitter may be the one being dragged.
         destroyAfterCall(rightTabs_);
         destroyAfterCall(splitter_);
