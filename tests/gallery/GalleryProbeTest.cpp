@@ -139,7 +139,7 @@ TEST_F(Probe, TheMediaSceneReportsItsChoicesAndTheCompressionFollowsTheFileType)
     EXPECT_TRUE(reports("value frameRate DropDownMenuButton 25"));
 
     // DV has no 1080 lines: choosing it by mouse leaves no compression.
-    auto* fileType = named<DropDownMenuButton>("fileType");
+    auto* fileType = TestKit::find<DropDownMenuButton>("fileType");
     ASSERT_TRUE(fileType);
     TestKit::click(TestKit::centreOf(fileType));
     Menu* menu = fileType->getMenu();
@@ -150,7 +150,7 @@ TEST_F(Probe, TheMediaSceneReportsItsChoicesAndTheCompressionFollowsTheFileType)
     const BoxInt box = menu->rowBox(static_cast<int>(dv - rows.begin()));
     TestKit::click(TestKit::screenPointOf(menu, {(box.x1 + box.x2) / 2, (box.y1 + box.y2) / 2}));
     TestKit::pump();
-    EXPECT_FALSE(named("compression")->isActive());
+    EXPECT_FALSE(TestKit::find("compression")->isActive());
     ASSERT_TRUE(probe.capture());
     EXPECT_TRUE(reports("value fileType FileFormatButton DV"));
 }
