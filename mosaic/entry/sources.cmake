@@ -1,0 +1,8 @@
+list(APPEND MOSAIC_SOURCES
+  entry/CustomTextBox.cpp
+  entry/IPAddressEntryBox.cpp
+  entry/LoginPanel.cpp
+  entry/moveFocusAmong.cpp
+  entry/PasswordEntryBox.cpp
+  entry/SignInWidget.cpp
+)
