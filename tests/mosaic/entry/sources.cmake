@@ -1,3 +1,4 @@
 list(APPEND MOSAIC_TEST_SOURCES
   mosaic/entry/IPAddressEntryBoxTest.cpp
+  mosaic/entry/SignInTest.cpp
 )
