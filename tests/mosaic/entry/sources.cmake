@@ -1,4 +1,5 @@
 list(APPEND MOSAIC_TEST_SOURCES
   mosaic/entry/IPAddressEntryBoxTest.cpp
+  mosaic/entry/DateCanvasTest.cpp
   mosaic/entry/SignInTest.cpp
 )
