@@ -18,6 +18,8 @@ namespace {
 constexpr std::uint32_t kMonths = 12, kFebruary = 1, kNoDay = 0xFFFFFFFF;
 constexpr std::array<std::uint32_t, kMonths> kDaysInMonth{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
 constexpr ResId kFirstMonthName = 770, kFirstDayName = 790;
+// "22nd", the widest ordinal, sets the day button's width.
+constexpr ResId kWidestDayName = kFirstDayName + 21;
 constexpr int kTmYearBase = 1900;
 constexpr std::size_t kTimeTextSize = 50;
 
@@ -39,7 +41,6 @@ datecanvas::datecanvas(const Palette& palette, unsigned short width, unsigned sh
     : StandardPanel(width, height, palette, canvas != nullptr, canvas) {
     init();
     setVisible(true);
-    const int gap = UifStd::instance().getWidgetGap();
     const auto h = static_cast<unsigned short>(height);
     auto make = [&](const std::vector<UIString>& rows, int w, const char* name) {
         DropDownMenuButton::InitArgs args(rows, static_cast<unsigned short>(std::max(1, w)), h);
@@ -48,7 +49,7 @@ datecanvas::datecanvas(const Palette& palette, unsigned short width, unsigned sh
         b->setStyle(0);
         return b;
     };
-    dayButton_ = make({}, DropDownMenuButton::calcWidth(UIString(resourceStrW(kFirstDayName + 21))) - 2 * gap, "day");
+    dayButton_ = make({}, DropDownMenuButton::calcWidth(UIString(resourceStrW(kWidestDayName))), "day");
     monthButton_ = make(monthNames(), DropDownMenuButton::calcWidth(monthNames()), "month");
     yearButton_ = make(yearNames(yearSet_), DropDownMenuButton::calcWidth(yearNames(yearSet_)), "year");
     validateDays();

@@ -23,6 +23,8 @@ fo_gench::~fo_gench() {
     if (Menu* m = m_menu.get()) m->close();
 }
 
+Menu* fo_gench::menu() const { return m_menu.get(); }
+
 void fo_gench::m_post_init() {
     const UIString shown(m_choices[m_choice].getString().substr(0, kShownChars));
     TitleButton::InitArgs args(m_label, shown, WidgetCallback(kLaunchMsg), kTitleWidth, static_cast<unsigned short>(width()),

@@ -30,7 +30,7 @@ public:
     // Takes the owner's list, unless it is empty.
     void m_accept_choices(const std::vector<UIString>& choices);
     void m_make_choices_menu();
-    Menu* menu() const { return m_menu.get(); }
+    Menu* menu() const;
     TitleButton* button() const { return button_; }
     std::vector<TabOrderable*> getTabStops() override;
 
