@@ -184,7 +184,7 @@ void HSColourWheel::buildWheelImage(int side, const NormalisedRGB& bg) {
         for (int i = 0; i < side; ++i) {
             const double x = (i - R) + 0.5;
             const int k = ky * n + static_cast<int>(std::fabs(x));
-            std::uint8_t* px = row + 4 * i;
+            std::uint8_t* px = row + 4 * static_cast<std::ptrdiff_t>(i);
             if (wholePixels(dist[k]) >= wholePixels(radius_)) {
                 std::copy(back, back + 4, px);
                 continue;

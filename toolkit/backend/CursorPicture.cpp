@@ -86,8 +86,8 @@ std::optional<CursorPicture> CursorPicture::draw(MouseCursorID id) {
 
     const auto* data = reinterpret_cast<const std::uint32_t*>(cairo_image_surface_get_data(surface.get()));
     const int stride = cairo_image_surface_get_stride(surface.get()) / 4;
-    picture.pixels_.reserve(kSize * kSize);
+    picture.pixels_.reserve(static_cast<std::size_t>(kSize) * kSize);
     for (int y = 0; y < kSize; ++y)
-        for (int x = 0; x < kSize; ++x) picture.pixels_.push_back(straightAlpha(data[y * stride + x]));
+        for (int x = 0; x < kSize; ++x) picture.pixels_.push_back(straightAlpha(data[static_cast<std::ptrdiff_t>(y) * stride + x]));
     return picture;
 }

@@ -20,7 +20,7 @@ public:
 
     // kSize rows of kSize pixels, top row first, as 0xAARRGGBB with straight alpha.
     const std::vector<std::uint32_t>& pixels() const { return pixels_; }
-    std::uint32_t at(int x, int y) const { return pixels_[static_cast<std::size_t>(y * kSize + x)]; }
+    std::uint32_t at(int x, int y) const { return pixels_[static_cast<std::size_t>(y) * kSize + static_cast<std::size_t>(x)]; }
     // The pixel that points, from the top left.
     XY<int> hotspot() const { return hotspot_; }
 

@@ -12,9 +12,12 @@ int brightness(std::uint32_t p) { return static_cast<int>((p >> 16 & 0xFF) + (p 
 void expectOutlinedBody(const CursorPicture& picture) {
     int dark = 0, light = 0, clear = 0;
     for (std::uint32_t p : picture.pixels()) {
-        if (alpha(p) == 0) ++clear;
-        else if (alpha(p) == 255 && brightness(p) < 40) ++dark;
-        else if (alpha(p) == 255 && brightness(p) > 215) ++light;
+        if (alpha(p) == 0)
+            ++clear;
+        else if (alpha(p) == 255 && brightness(p) < 40)
+            ++dark;
+        else if (alpha(p) == 255 && brightness(p) > 215)
+            ++light;
     }
     EXPECT_GT(dark, 40);
     EXPECT_GT(light, 20);
@@ -49,7 +52,6 @@ TEST(CursorPicture, TheDragCursorIsAClosedHandAroundItsHotspot) {
 }
 
 TEST(CursorPicture, CursorsTheSystemDrawsHaveNoPicture) {
-    for (MouseCursorID id : {kCursorArrow, kCursorIBeam, kCursorHand, kCursorCrosshair, kCursorWait})
-        EXPECT_FALSE(CursorPicture::draw(id)) << id;
+    for (MouseCursorID id : {kCursorArrow, kCursorIBeam, kCursorHand, kCursorCrosshair, kCursorWait}) EXPECT_FALSE(CursorPicture::draw(id)) << id;
     EXPECT_NE(CursorPicture::draw(kCursorDrag)->pixels(), CursorPicture::draw(kCursorEyeDropper)->pixels());
 }
