@@ -16,7 +16,7 @@ int CustomTextBox::tellParent(const char* message) {
 
 int CustomTextBox::react(const Event& e) {
     if (e.type() != Event::kTextInput || e.typedText().size() < 2) return TextBox::react(e);
-    const LightweightString<wchar_t> typed = e.typedText();
+    const LightweightString<wchar_t>& typed = e.typedText();
     for (wchar_t c : typed) {
         Glob* target = get_kbd_focus();
         if (!target) break;

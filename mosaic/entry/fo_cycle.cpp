@@ -43,6 +43,5 @@ int fo_cycle::handleMessageEvent(const LightweightString<char>& message, Glob* s
         sendUp(msgFromUIText(button_->getSelectedItemNameW()));
         return 1;
     }
-    if (message == kPromptMsg) return fo_eleme::handleMessageEvent(message, sender);
     return fo_choic::handleMessageEvent(message, sender);
 }

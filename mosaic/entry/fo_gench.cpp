@@ -86,5 +86,5 @@ int fo_gench::handleMessageEvent(const LightweightString<char>& message, Glob* s
         button_->setLabel(UIString(m_choices[m_choice].getString().substr(0, kShownChars)));
         return 1;
     }
-    return fo_eleme::handleMessageEvent(message, sender);
+    return fo_choic::handleMessageEvent(message, sender);
 }
