@@ -3,7 +3,7 @@
 # builds Mosaic and runs every test: a plain build with warnings as errors and
 # clang-tidy over its sources, then the same tests under AddressSanitizer with
 # UndefinedBehaviorSanitizer, then the tests of code that crosses threads under
-# ThreadSanitizer, with each fuzz target run for half a minute first. Each stage says how
+# ThreadSanitizer, with each fuzz target run for a minute first. Each stage says how
 # many seconds the run had taken when it began. Set MOSAIC_SKIP_SANITIZERS=1
 # to run the plain build only.
 set -euo pipefail
@@ -39,14 +39,14 @@ stage "clang-tidy"
 bash scripts/run-tidy.sh build
 
 if [ "${MOSAIC_SKIP_SANITIZERS:-0}" != 1 ]; then
-  stage "fuzz targets, 30 seconds each"
+  stage "fuzz targets, 60 seconds each"
   CC=clang CXX=clang++ cmake -S . -B build-fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DMOSAIC_BUILD_FUZZ=ON \
     -DMOSAIC_BUILD_TESTS=OFF -DMOSAIC_BUILD_BENCH=OFF -DMOSAIC_BUILD_APPS=OFF >/dev/null
   cmake --build build-fuzz -j "$jobs"
   for target in tutorial saved_state builder media_text entry; do
     corpus=$(mktemp -d)
     cp fuzz/corpus/$target/* "$corpus"/
-    LSAN_OPTIONS="suppressions=$PWD/scripts/lsan.supp" ./build-fuzz/bin/${target}_fuzz -max_total_time=30 -max_len=4096 \
+    LSAN_OPTIONS="suppressions=$PWD/scripts/lsan.supp" ./build-fuzz/bin/${target}_fuzz -max_total_time=60 -max_len=4096 \
       "$corpus" 2>&1 | tail -n 3
     rm -rf "$corpus"
   done
