@@ -2,6 +2,7 @@
 // into the address box, and the validation of a form's number and text entries.
 // Whatever comes in, a parsed address writes back to itself, the boxes keep their
 // digits within their limits, and numbers stay in their ranges.
+#include "controls/TitleTextBox.h"
 #include "core/KeyCodes.h"
 #include "core/Utf8.h"
 #include "core/WStringFromInteger.h"
