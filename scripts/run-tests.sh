@@ -43,7 +43,7 @@ if [ "${MOSAIC_SKIP_SANITIZERS:-0}" != 1 ]; then
   CC=clang CXX=clang++ cmake -S . -B build-fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DMOSAIC_BUILD_FUZZ=ON \
     -DMOSAIC_BUILD_TESTS=OFF -DMOSAIC_BUILD_BENCH=OFF -DMOSAIC_BUILD_APPS=OFF >/dev/null
   cmake --build build-fuzz -j "$jobs"
-  for target in tutorial saved_state builder media_text; do
+  for target in tutorial saved_state builder media_text entry; do
     corpus=$(mktemp -d)
     cp fuzz/corpus/$target/* "$corpus"/
     LSAN_OPTIONS="suppressions=$PWD/scripts/lsan.supp" ./build-fuzz/bin/${target}_fuzz -max_total_time=60 -max_len=4096 \

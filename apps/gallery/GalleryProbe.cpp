@@ -12,6 +12,7 @@
 #include "core/StringFromFloat.h"
 #include "core/Utf8.h"
 #include "draw/Screen.h"
+#include "entry/IPAddressEntryBox.h"
 #include "glob/Glob.h"
 #include "glob/GlobManager.h"
 #include "glob/Messaging.h"
@@ -93,6 +94,7 @@ void GalleryProbe::printWidgets(std::FILE* out) {
 }
 
 std::optional<std::string> GalleryProbe::valueOf(const Glob* g) {
+    if (auto* a = dynamic_cast<const IPAddressEntryBox*>(g)) return text(a->getURI());
     if (auto* c = dynamic_cast<const Checkbox*>(g)) return c->getState() ? "on" : "off";
     if (auto* d = dynamic_cast<const DropDownMenuButton*>(g)) return text(d->getSelectedItemNameW());
     auto* button = dynamic_cast<const Button*>(g);

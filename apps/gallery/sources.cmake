@@ -3,6 +3,7 @@ list(APPEND GALLERY_SOURCES
   ControlsScene.cpp
   DemoScene.cpp
   EditorScene.cpp
+  EntryScene.cpp
   FilesScene.cpp
   GalleryProbe.cpp
   GalleryScene.cpp

@@ -33,7 +33,7 @@ public:
     };
     using PageData = WrappedData<unsigned short>;
     static constexpr const char* kPageChangedMsg = "PageIndexChanged";
-    static constexpr ResId kNoPagesText = 802;
+    static constexpr ResId kNoPagesText = 832;
 
     explicit PageIndexWidget(const InitArgs& args);
     const char* idstring() const override { return "PageIndexWidget"; }

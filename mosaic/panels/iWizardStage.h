@@ -9,8 +9,8 @@
 /// page's contents to survive a visit keeps them itself.
 class iWizardStage : public iObject {
 public:
-    static constexpr ResId kBackText = 800;
-    static constexpr ResId kNextText = 801;
+    static constexpr ResId kBackText = 830;
+    static constexpr ResId kNextText = 831;
 
     // The page, made as a child of `wizard` at `position` with `size`; null for none.
     virtual WizardStagePanel* makePage(StandardPanel& wizard, const XY<int>& size, const WidgetPosition& position) = 0;

@@ -301,7 +301,13 @@ int StandardPanel::react(const Event& e) {
     case Event::kMessage: {
         Glob* sender = event_to_sender_glob(e);
         if (e.payload()) return handleDataMessageEvent(e.messageText(), sender, e.payload());
-        return handleMessageEvent(e.messageText(), sender);
+        if (int r = handleMessageEvent(e.messageText(), sender)) return r;
+        // A "poot" that the panel leaves alone closes it as its close box would.
+        if (e.messageText() == pootMsg) {
+            handlePoot();
+            return 1;
+        }
+        return 0;
     }
     case Event::kKeyPress: {
         modifiers_ = e.modifiers();

@@ -36,6 +36,8 @@ public:
     enum eSpacing { kCompact = 0, kNormal = 1, kSpacious = 2 };
     // The name of the message that a panel's main action sends.
     static constexpr const char* doItMsg = "doIt";
+    // The message that closes a panel as its close box does.
+    static constexpr const char* pootMsg = "poot";
 
     explicit StandardPanel(const InitArgs& args);
     StandardPanel(unsigned short width, unsigned short height);

@@ -11,6 +11,8 @@ list(APPEND GLOBKIT_SOURCES
   core/WStringFromAscii.cpp
   core/WStringFromFloat.cpp
   core/WStringFromInteger.cpp
+  core/IntFromWString.cpp
+  core/StringFromInteger.cpp
   core/FloatFromWString.cpp
   core/StringFromFloat.cpp
   core/asDouble.cpp

@@ -8,6 +8,7 @@ list(APPEND GLOBKIT_SOURCES
   platform/CookieJar.cpp
   platform/EditorPreferences.cpp
   platform/FilespecUtils.cpp
+  platform/IPAddress.cpp
   platform/getSystemLogDirectory.cpp
   platform/JSON.cpp
   platform/JSONBuilder.cpp

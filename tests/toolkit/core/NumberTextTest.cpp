@@ -1,5 +1,7 @@
 #include "core/FloatFromWString.h"
+#include "core/IntFromWString.h"
 #include "core/StringFromFloat.h"
+#include "core/StringFromInteger.h"
 #include "core/WStringFromFloat.h"
 #include "core/WStringFromInteger.h"
 #include "core/asDouble.h"
@@ -42,4 +44,14 @@ TEST(NumberTexts, AFloatTextKeepsEveryByteOfAColourAndIgnoresTheLocale) {
     }
     EXPECT_EQ(StringFromFloat(0.5), "0.5");
     std::setlocale(LC_NUMERIC, "C");
+}
+
+TEST(NumberTexts, WholeNumbersReadAsStrtolAndHeldToInt) {
+    EXPECT_EQ(Zn::IntFromWString(L"  -17 apples"), -17);
+    EXPECT_EQ(Zn::IntFromWString(L"007"), 7);
+    EXPECT_EQ(Zn::IntFromWString(L"x1"), 0);
+    EXPECT_EQ(Zn::IntFromWString(L""), 0);
+    EXPECT_EQ(Zn::IntFromWString(L"99999999999999999999"), std::numeric_limits<int>::max());
+    EXPECT_EQ(Zn::IntFromWString(L"-99999999999"), std::numeric_limits<int>::min());
+    EXPECT_EQ(Zn::StringFromInteger(-305), "-305");
 }

@@ -1,0 +1,20 @@
+list(APPEND MOSAIC_SOURCES
+  entry/CustomTextBox.cpp
+  entry/datecanvas.cpp
+  entry/fo_bool.cpp
+  entry/fo_choic.cpp
+  entry/fo_cycle.cpp
+  entry/fo_eleme.cpp
+  entry/fo_entry.cpp
+  entry/fo_gench.cpp
+  entry/fo_path.cpp
+  entry/fo_v_dbl.cpp
+  entry/fo_v_int.cpp
+  entry/form.cpp
+  entry/IPAddressEntryBox.cpp
+  entry/LoginPanel.cpp
+  entry/moveFocusAmong.cpp
+  entry/PasswordEntryBox.cpp
+  entry/SignInWidget.cpp
+  entry/YearSet.cpp
+)
