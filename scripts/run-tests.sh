@@ -18,6 +18,19 @@ export CTEST_OUTPUT_ON_FAILURE=1
 
 stage() { echo "== $1 == (${SECONDS} s)"; }
 
+fuzz_one() {
+  local target=$1 corpus status=0
+  corpus=$(mktemp -d)
+  cp fuzz/corpus/"$target"/* "$corpus"/
+  LSAN_OPTIONS="suppressions=$PWD/scripts/lsan.supp" ./build-fuzz/bin/"${target}"_fuzz -max_total_time=60 -max_len=4096 \
+    "$corpus" >"$corpus.log" 2>&1 || status=$?
+  echo "-- ${target}_fuzz: $(grep -a "^Done" "$corpus.log" | tail -n 1)"
+  [ "$status" = 0 ] || tail -n 40 "$corpus.log"
+  rm -rf "$corpus" "$corpus.log"
+  return "$status"
+}
+export -f fuzz_one
+
 run_suite() {
   local dir=$1; shift
   cmake -S . -B "$dir" -G Ninja -DMOSAIC_WERROR=ON "$@" >/dev/null
@@ -43,13 +56,8 @@ if [ "${MOSAIC_SKIP_SANITIZERS:-0}" != 1 ]; then
   CC=clang CXX=clang++ cmake -S . -B build-fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DMOSAIC_BUILD_FUZZ=ON \
     -DMOSAIC_BUILD_TESTS=OFF -DMOSAIC_BUILD_BENCH=OFF -DMOSAIC_BUILD_APPS=OFF >/dev/null
   cmake --build build-fuzz -j "$jobs"
-  for target in tutorial saved_state builder media_text entry; do
-    corpus=$(mktemp -d)
-    cp fuzz/corpus/$target/* "$corpus"/
-    LSAN_OPTIONS="suppressions=$PWD/scripts/lsan.supp" ./build-fuzz/bin/${target}_fuzz -max_total_time=60 -max_len=4096 \
-      "$corpus" 2>&1 | tail -n 3
-    rm -rf "$corpus"
-  done
+  # As many targets at once as there are cores, each on a copy of its seeds.
+  printf '%s\n' tutorial saved_state builder media_text entry | xargs -P "$jobs" -I{} bash -c 'fuzz_one {}'
   stage "AddressSanitizer + UndefinedBehaviorSanitizer"
   ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 LSAN_OPTIONS="suppressions=$PWD/scripts/lsan.supp" UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
     run_suite build-asan -DCMAKE_BUILD_TYPE=Debug -DMOSAIC_ASAN=ON -DMOSAIC_BUILD_BENCH=OFF
