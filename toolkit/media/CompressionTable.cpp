@@ -15,7 +15,7 @@ const std::vector<CompressionCodec>& CompressionTable::codecs() {
         {Zn::Image::Format("apch"), L"ProRes 422 HQ", "prores_ks", "yuv422p10", "profile=3", C::kAnySize, 0.0, 0},
         {Zn::Image::Format("AVdh"), L"DNxHR HQ", "dnxhd", "yuv422p", "profile=dnxhr_hq", C::kProgressiveOnly, 0.0, 0},
         {Zn::Image::Format("avc1"), L"H.264", "libx264", "yuv420p", "preset=fast", C::kAnySize, 20.0, 50},
-        {Zn::Image::Format("hvc1"), L"H.265", "libx265", "yuv420p", "preset=fast:x265-params='log-level=error:frame-threads=1:pools=none'",
+        {Zn::Image::Format("hvc1"), L"H.265", "libx265", "yuv420p", "preset=fast:x265-params='log-level=error:frame-threads=1:pools=none:bframes=0'",
          C::kProgressiveOnly, 15.0, 50},
         {Zn::Image::Format("vp09"), L"VP9", "libvpx-vp9", "yuv420p", "deadline=good:cpu-used=4", C::kProgressiveOnly, 12.0, 50},
         {Zn::Image::Format("av01"), L"AV1", "libaom-av1", "yuv420p", "cpu-used=6", C::kProgressiveOnly, 8.0, 50},
