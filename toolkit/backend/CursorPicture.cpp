@@ -1,5 +1,7 @@
 #include "CursorPicture.h"
 
+#include "draw/Canvas.h"
+
 #include <cairo.h>
 
 #include <memory>
@@ -53,13 +55,6 @@ void closedHand(cairo_t* cr, bool outline) {
     cairo_stroke(cr);
 }
 
-std::uint32_t straightAlpha(std::uint32_t p) {
-    const std::uint32_t a = p >> 24;
-    if (a == 0) return 0;
-    auto channel = [&](int shift) { return (((p >> shift) & 0xFF) * 255 + a / 2) / a << shift; };
-    return a << 24 | channel(16) | channel(8) | channel(0);
-}
-
 } // namespace
 
 std::optional<CursorPicture> CursorPicture::draw(MouseCursorID id) {
@@ -88,6 +83,6 @@ std::optional<CursorPicture> CursorPicture::draw(MouseCursorID id) {
     const int stride = cairo_image_surface_get_stride(surface.get()) / 4;
     picture.pixels_.reserve(static_cast<std::size_t>(kSize) * kSize);
     for (int y = 0; y < kSize; ++y)
-        for (int x = 0; x < kSize; ++x) picture.pixels_.push_back(straightAlpha(data[static_cast<std::ptrdiff_t>(y) * stride + x]));
+        for (int x = 0; x < kSize; ++x) picture.pixels_.push_back(Canvas::straightAlpha(data[static_cast<std::ptrdiff_t>(y) * stride + x]));
     return picture;
 }

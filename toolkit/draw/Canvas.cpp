@@ -72,8 +72,10 @@ std::uint32_t Canvas::pixel(int x, int y) const {
     const unsigned char* data = cairo_image_surface_get_data(surface_);
     int stride = cairo_image_surface_get_stride(surface_);
     int row = height_ - 1 - y;
-    std::uint32_t premultiplied = *reinterpret_cast<const std::uint32_t*>(data + std::ptrdiff_t{row} * stride + std::ptrdiff_t{x} * 4);
-    // Cairo stores premultiplied alpha; give back the straight colour.
+    return straightAlpha(*reinterpret_cast<const std::uint32_t*>(data + std::ptrdiff_t{row} * stride + std::ptrdiff_t{x} * 4));
+}
+
+std::uint32_t Canvas::straightAlpha(std::uint32_t premultiplied) {
     std::uint32_t a = premultiplied >> 24;
     if (a == 0 || a == 255) return premultiplied;
     auto un = [a](std::uint32_t c) { return std::min<std::uint32_t>(255, (c * 255 + a / 2) / a); };

@@ -50,6 +50,8 @@ public:
 
     // The 0xAARRGGBB value of a pixel (canvas coordinates, bottom-up); 0 outside.
     std::uint32_t pixel(int x, int y) const;
+    // A pixel as Cairo stores it, with premultiplied alpha, as straight 0xAARRGGBB.
+    static std::uint32_t straightAlpha(std::uint32_t premultiplied);
 
     // Areas painted since the last takeModifiedArea(), in canvas coordinates.
     void addModifiedArea(const BoxInt& box);
