@@ -1,8 +1,10 @@
 #include "CanvasRenderer.h"
 
+#include "GlyphLine.h"
 #include "PangoSupport.h"
 #include "ShapeMaskCache.h"
 #include "ShapedTextCache.h"
+#include "TextAdvanceCache.h"
 #include "core/Utf8.h"
 #include "image/iHostImage.h"
 
@@ -213,23 +215,36 @@ void CanvasRenderer::render(const Glib::TextDescription& t) const {
     if (!canvas_ || t.text.empty() || t.box.isEmpty()) return;
     cairo_t* cr = canvas_->context();
     XY<int> o = canvas_->origin();
-    Glib::ShapedTextCache::Shaped& shaped = Glib::ShapedTextCache::forThisThread().get(t.text, t.font, t.ellipsize ? t.box.width() : 0);
-    const PangoRectangle& logical = shaped.logical;
+    // Plain text is painted from glyphs kept per font, with no layout: text never
+    // shown before (a table scrolled to new rows) then costs what repainted text does.
+    thread_local Glib::TextAdvanceCache::GlyphLine glyphs;
+    Glib::ShapedTextCache::Shaped* shaped = nullptr;
+    XY<int> size;
+    if (Glib::TextAdvanceCache::forThisThread().glyphLine(t.text.view(), t.font, glyphs) && !(t.ellipsize && glyphs.size.x > t.box.width())) {
+        size = glyphs.size;
+    } else {
+        shaped = &Glib::ShapedTextCache::forThisThread().get(t.text, t.font, t.ellipsize ? t.box.width() : 0);
+        size = {shaped->logical.width, shaped->logical.height};
+    }
     double x = o.x + t.box.x1;
-    if (t.align == Glib::kAlignCentreH) x += (t.box.width() - logical.width) / 2.0;
-    if (t.align == Glib::kAlignRight) x += t.box.width() - logical.width;
+    if (t.align == Glib::kAlignCentreH) x += (t.box.width() - size.x) / 2.0;
+    if (t.align == Glib::kAlignRight) x += t.box.width() - size.x;
     // Whole pixels, so that a kept mask of the text is the text.
     const int left = static_cast<int>(std::round(x));
-    const int top = static_cast<int>(canvas_->cairoY(o.y + t.box.y2) + std::floor((t.box.height() - logical.height) / 2.0));
+    const int top = static_cast<int>(canvas_->cairoY(o.y + t.box.y2) + std::floor((t.box.height() - size.y) / 2.0));
     cairo_save(cr);
     cairo_rectangle(cr, o.x + t.box.x1, canvas_->cairoY(o.y + t.box.y2), t.box.width(), t.box.height());
     cairo_clip(cr);
     setColour(t.colour);
-    if (cairo_surface_t* mask = Glib::ShapedTextCache::maskOf(shaped)) {
-        cairo_mask_surface(cr, mask, left + shaped.maskOrigin.x, top + shaped.maskOrigin.y);
+    if (!shaped) {
+        cairo_translate(cr, left, top + glyphs.baseline);
+        cairo_set_scaled_font(cr, glyphs.font);
+        cairo_show_glyphs(cr, glyphs.glyphs.data(), static_cast<int>(glyphs.glyphs.size()));
+    } else if (cairo_surface_t* mask = Glib::ShapedTextCache::maskOf(*shaped)) {
+        cairo_mask_surface(cr, mask, left + shaped->maskOrigin.x, top + shaped->maskOrigin.y);
     } else {
         cairo_move_to(cr, left, top);
-        pango_cairo_show_layout(cr, shaped.layout.get());
+        pango_cairo_show_layout(cr, shaped->layout.get());
     }
     cairo_restore(cr);
     noteModified(t.box.x1, t.box.y1, t.box.x2, t.box.y2);

@@ -1,5 +1,7 @@
 #include "TextAdvanceCache.h"
 
+#include "GlyphLine.h"
+
 #include "PangoSupport.h"
 #include "core/Utf8.h"
 
@@ -67,7 +69,11 @@ public:
         advances_.fill(kUnknown);
         heights_.fill(kUnknown);
     }
-    ~FontTable() { g_object_unref(layout_); }
+    ~FontTable() {
+        for (const Glyph& g : glyphs_)
+            if (g.face) g_object_unref(g.face);
+        g_object_unref(layout_);
+    }
     FontTable(const FontTable&) = delete;
     FontTable& operator=(const FontTable&) = delete;
 
@@ -77,9 +83,23 @@ public:
             PangoRectangle logical = measureRaw(std::wstring_view(&c, 1));
             a = logical.width;
             heights_[slot(c)] = logical.height;
+            keepGlyph(glyphs_[slot(c)]);
         }
         return a;
     }
+    // The glyph Pango draws `c` with, once advance(c) has been asked.
+    struct Glyph {
+        PangoGlyph id = PANGO_GLYPH_EMPTY;
+        PangoFont* face = nullptr; // null when Pango does not draw it as one plain glyph
+        std::int32_t baseline = 0;
+    };
+    const Glyph& glyph(wchar_t c) {
+        advance(c);
+        return glyphs_[slot(c)];
+    }
+    // True when Pango draws the pair as the two glyphs of its characters, not one
+    // joined glyph or glyphs moved by shaping; known once kerning(a, b) has been asked.
+    bool separate(wchar_t a, wchar_t b) { return joined_.empty() || !joined_[slot(a) * kSpan + slot(b)]; }
     // The line height of the face that draws `c`: a face that Pango falls back to may be taller.
     std::int32_t height(wchar_t c) {
         advance(c);
@@ -92,6 +112,10 @@ public:
             wchar_t both[2] = {a, b};
             std::int32_t raw = measureRaw(std::wstring_view(both, 2)).width - advance(a) - advance(b);
             k = static_cast<std::int16_t>(std::clamp<std::int32_t>(raw, -32767, 32767));
+            if (!shapedAsTwo(glyph(a), glyph(b))) {
+                if (joined_.empty()) joined_.assign(kSpan * kSpan, 0);
+                joined_[slot(a) * kSpan + slot(b)] = 1;
+            }
         }
         return k;
     }
@@ -116,7 +140,37 @@ private:
         return logical;
     }
 
+    // The glyphs of the layout's one run, when it has exactly one.
+    const PangoGlyphString* onlyRun(PangoFont*& face) const {
+        PangoLayoutLine* line = pango_layout_get_line_readonly(layout_, 0);
+        if (!line || !line->runs || line->runs->next) return nullptr;
+        auto* run = static_cast<PangoGlyphItem*>(line->runs->data);
+        face = run->item->analysis.font;
+        return run->glyphs;
+    }
+    static bool plain(const PangoGlyphInfo& g) {
+        return !(g.glyph & PANGO_GLYPH_UNKNOWN_FLAG) && g.geometry.x_offset == 0 && g.geometry.y_offset == 0;
+    }
+    // Fills in the glyph of the one character just measured.
+    void keepGlyph(Glyph& g) {
+        PangoFont* face = nullptr;
+        const PangoGlyphString* run = onlyRun(face);
+        if (!run || run->num_glyphs != 1 || !plain(run->glyphs[0]) || !face) return;
+        g.id = run->glyphs[0].glyph;
+        g.face = PANGO_FONT(g_object_ref(face));
+        g.baseline = pango_layout_get_baseline(layout_);
+    }
+    // Whether the pair just measured came out as the two glyphs measured alone.
+    bool shapedAsTwo(const Glyph& a, const Glyph& b) const {
+        PangoFont* face = nullptr;
+        const PangoGlyphString* run = onlyRun(face);
+        return run && run->num_glyphs == 2 && face == a.face && face == b.face && plain(run->glyphs[0]) && plain(run->glyphs[1]) &&
+               run->glyphs[0].glyph == a.id && run->glyphs[1].glyph == b.id;
+    }
+
     PangoLayout* layout_;
+    std::array<Glyph, kSpan> glyphs_{};
+    std::vector<std::uint8_t> joined_;
     std::array<std::int32_t, kSpan> advances_;
     std::array<std::int32_t, kSpan> heights_;
     std::vector<std::int16_t> pairs_;
@@ -162,6 +216,27 @@ std::optional<XY<int>> TextAdvanceCache::measurePixels(std::wstring_view text, c
     std::int32_t height = 0;
     for (wchar_t c : text) height = std::max(height, table.height(c));
     return XY<int>(PANGO_PIXELS_CEIL(table.run(text)), PANGO_PIXELS_CEIL(height));
+}
+
+bool TextAdvanceCache::glyphLine(std::wstring_view text, const FontDesc& font, GlyphLine& out) {
+    if (text.empty() || !isPairwise(text)) return false;
+    FontTable& table = tableFor(font);
+    const std::int64_t width = table.run(text); // asks every advance and pair first
+    PangoFont* face = table.glyph(text.front()).face;
+    if (!face) return false;
+    out.glyphs.clear();
+    std::int64_t x = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const FontTable::Glyph& g = table.glyph(text[i]);
+        if (g.face != face || (i > 0 && !table.separate(text[i - 1], text[i]))) return false;
+        if (i > 0) x += table.kerning(text[i - 1], text[i]);
+        if (g.id != PANGO_GLYPH_EMPTY) out.glyphs.push_back({g.id, static_cast<double>(x) / PANGO_SCALE, 0.0});
+        x += table.advance(text[i]);
+    }
+    out.font = pango_cairo_font_get_scaled_font(PANGO_CAIRO_FONT(face));
+    out.size = XY<int>(PANGO_PIXELS_CEIL(width), PANGO_PIXELS_CEIL(table.height(text.front())));
+    out.baseline = static_cast<double>(table.glyph(text.front()).baseline) / PANGO_SCALE;
+    return out.font != nullptr;
 }
 
 std::optional<int> TextAdvanceCache::countLines(std::wstring_view text, int width, const FontDesc& font) {

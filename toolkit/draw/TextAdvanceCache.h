@@ -34,6 +34,11 @@ public:
     // text is not simple, as for measure(). Empty text is left to Pango too.
     std::optional<XY<int>> measurePixels(std::wstring_view text, const FontDesc& font);
 
+    // One line of simple text as glyphs (GlyphLine.h, private to toolkit/draw).
+    struct GlyphLine;
+    // Fills `out` and answers true when every character of `text` is simple, is
+    // drawn by the same face, and joins no neighbour into another glyph.
+    bool glyphLine(std::wstring_view text, const FontDesc& font, GlyphLine& out);
     // How many fonts' advances a thread keeps.
     static constexpr std::size_t kFontsKept = 16;
 

@@ -1,9 +1,13 @@
+#include "core/Utf8.h"
 #include "draw/Canvas.h"
 #include "draw/CanvasRenderer.h"
 #include "draw/FontDesc.h"
+#include "draw/PangoSupport.h"
 #include "draw/UifStd.h"
 
 #include <gtest/gtest.h>
+
+#include <cmath>
 
 TEST(Text, MeasuringGrowsWithTheTextAndTheFont) {
     Glib::FontDesc f = Glib::getDefaultFont();
@@ -51,6 +55,39 @@ TEST(Text, DrawnTextStaysInItsBoxAndFollowsAlignment) {
     wchar_t odd[] = {L'a', static_cast<wchar_t>(0xD800), L'b', 0};
     r.render(Glib::TextDescription(BoxInt(0, 10, 100, 30), odd, Glib::getDefaultFont(), Colour(1, 1, 1)));
     EXPECT_GT(inkColumns(0, 100), 3);
+}
+
+// Plain text is painted from kept glyphs, everything else through a Pango layout:
+// the two must give the same pixels, kerning, accents and faces included.
+TEST(Text, PlainTextFromKeptGlyphsPaintsWhatPangoPaints) {
+    const Glib::FontDesc base = Glib::getDefaultFont();
+    for (const Glib::FontDesc& font : {base, base.withSize(base.size * 2), Glib::FontDesc("DejaVu Serif", 17)}) {
+        for (const wchar_t* text : {L"AVATAR To Wa Yo", L"Reel 12, take 3 (final)", L"Ångström café été", L"fit flow office"}) {
+            const BoxInt box(3, 2, 397, 58);
+            Canvas glyphs(400, 60), pango(400, 60);
+            CanvasRenderer(&glyphs).fill(Colour(0.1, 0.2, 0.3));
+            CanvasRenderer(&glyphs).render(Glib::TextDescription(box, text, font, Colour(1, 0.9, 0.5)));
+            CanvasRenderer(&pango).fill(Colour(0.1, 0.2, 0.3));
+            PangoLayout* layout = Glib::makeLayout(toUTF8(LightweightString<wchar_t>(text)), font);
+            PangoRectangle logical;
+            pango_layout_get_pixel_extents(layout, nullptr, &logical);
+            cairo_t* cr = pango.context();
+            cairo_rectangle(cr, box.x1, pango.cairoY(box.y2), box.width(), box.height());
+            cairo_clip(cr);
+            cairo_set_source_rgba(cr, 1, 0.9, 0.5, 1);
+            cairo_move_to(cr, box.x1, pango.cairoY(box.y2) + std::floor((box.height() - logical.height) / 2.0));
+            pango_cairo_show_layout(cr, layout);
+            g_object_unref(layout);
+            int differ = 0, ink = 0;
+            for (int y = 0; y < 60; ++y)
+                for (int x = 0; x < 400; ++x) {
+                    differ += glyphs.pixel(x, y) != pango.pixel(x, y);
+                    ink += pango.pixel(x, y) != glyphs.pixel(0, 0);
+                }
+            EXPECT_GT(ink, 100) << toUTF8(LightweightString<wchar_t>(text)).c_str();
+            EXPECT_EQ(differ, 0) << toUTF8(LightweightString<wchar_t>(text)).c_str() << " at " << font.size;
+        }
+    }
 }
 
 TEST(Icons, ShippedIconsAreFoundAndOthersAreNot) {
