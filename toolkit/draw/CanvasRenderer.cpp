@@ -215,17 +215,18 @@ void CanvasRenderer::render(const Glib::TextDescription& t) const {
     if (!canvas_ || t.text.empty() || t.box.isEmpty()) return;
     cairo_t* cr = canvas_->context();
     XY<int> o = canvas_->origin();
-    // Plain text is painted from glyphs kept per font, with no layout: text never
-    // shown before (a table scrolled to new rows) then costs what repainted text does.
+    // Text painted before is one composite of its kept mask. Plain text painted for
+    // the first time is drawn from glyphs kept per font, with no layout, so that a
+    // table scrolled to rows never shown costs about what a repaint does.
+    Glib::ShapedTextCache& cache = Glib::ShapedTextCache::forThisThread();
+    const int shortenTo = t.ellipsize ? t.box.width() : 0;
+    std::string key = Glib::ShapedTextCache::keyOf(t.text, t.font, shortenTo);
+    Glib::ShapedTextCache::Shaped* shaped = cache.find(key);
     thread_local Glib::TextAdvanceCache::GlyphLine glyphs;
-    Glib::ShapedTextCache::Shaped* shaped = nullptr;
-    XY<int> size;
-    if (Glib::TextAdvanceCache::forThisThread().glyphLine(t.text.view(), t.font, glyphs) && !(t.ellipsize && glyphs.size.x > t.box.width())) {
-        size = glyphs.size;
-    } else {
-        shaped = &Glib::ShapedTextCache::forThisThread().get(t.text, t.font, t.ellipsize ? t.box.width() : 0);
-        size = {shaped->logical.width, shaped->logical.height};
-    }
+    const bool fresh = !shaped && Glib::TextAdvanceCache::forThisThread().glyphLine(t.text.view(), t.font, glyphs) &&
+                       !(t.ellipsize && glyphs.size.x > t.box.width());
+    if (!fresh && !shaped) shaped = &cache.get(t.text, t.font, shortenTo);
+    const XY<int> size = fresh ? glyphs.size : XY<int>(shaped->logical.width, shaped->logical.height);
     double x = o.x + t.box.x1;
     if (t.align == Glib::kAlignCentreH) x += (t.box.width() - size.x) / 2.0;
     if (t.align == Glib::kAlignRight) x += t.box.width() - size.x;
@@ -236,15 +237,20 @@ void CanvasRenderer::render(const Glib::TextDescription& t) const {
     cairo_rectangle(cr, o.x + t.box.x1, canvas_->cairoY(o.y + t.box.y2), t.box.width(), t.box.height());
     cairo_clip(cr);
     setColour(t.colour);
-    if (!shaped) {
+    if (fresh) {
         cairo_translate(cr, left, top + glyphs.baseline);
         cairo_set_scaled_font(cr, glyphs.font);
         cairo_show_glyphs(cr, glyphs.glyphs.data(), static_cast<int>(glyphs.glyphs.size()));
+        cache.keep(std::move(key), glyphs);
     } else if (cairo_surface_t* mask = Glib::ShapedTextCache::maskOf(*shaped)) {
         cairo_mask_surface(cr, mask, left + shaped->maskOrigin.x, top + shaped->maskOrigin.y);
-    } else {
+    } else if (shaped->layout) {
         cairo_move_to(cr, left, top);
         pango_cairo_show_layout(cr, shaped->layout.get());
+    } else {
+        cairo_translate(cr, left, top);
+        cairo_set_scaled_font(cr, shaped->font.get());
+        cairo_show_glyphs(cr, shaped->glyphs.data(), static_cast<int>(shaped->glyphs.size()));
     }
     cairo_restore(cr);
     noteModified(t.box.x1, t.box.y1, t.box.x2, t.box.y2);

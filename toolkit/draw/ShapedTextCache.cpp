@@ -4,6 +4,7 @@
 #include "core/Utf8.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 
 namespace Glib {
@@ -24,15 +25,27 @@ ShapedTextCache::Shaped ShapedTextCache::shape(const LightweightString<char>& ut
     return s;
 }
 
+std::string ShapedTextCache::keyOf(const LightweightString<wchar_t>& text, const FontDesc& font, int ellipsizeWidth) {
+    std::string key = font.name.str();
+    key += '\0' + std::to_string(font.size) + ',' + std::to_string(font.style) + ',' + std::to_string(std::max(0, ellipsizeWidth)) + '\0';
+    key += toUTF8(text).str();
+    return key;
+}
+
 ShapedTextCache::Shaped& ShapedTextCache::get(const LightweightString<wchar_t>& text, const FontDesc& font, int ellipsizeWidth) {
     ellipsizeWidth = std::max(0, ellipsizeWidth);
-    const LightweightString<char> utf8 = toUTF8(text);
-    // Everything that changes the shape, then the text.
-    std::string key = font.name.str();
-    key += '\0' + std::to_string(font.size) + ',' + std::to_string(font.style) + ',' + std::to_string(ellipsizeWidth) + '\0';
-    key += utf8.str();
+    std::string key = keyOf(text, font, ellipsizeWidth);
     if (Shaped* found = cache_.find(key)) return *found;
-    return cache_.insert(std::move(key), shape(utf8, font, ellipsizeWidth));
+    return cache_.insert(std::move(key), shape(toUTF8(text), font, ellipsizeWidth));
+}
+
+ShapedTextCache::Shaped& ShapedTextCache::keep(std::string key, const TextAdvanceCache::GlyphLine& line) {
+    Shaped s;
+    s.font.reset(cairo_scaled_font_reference(line.font));
+    s.glyphs = line.glyphs;
+    for (cairo_glyph_t& g : s.glyphs) g.y += line.baseline;
+    s.logical = {0, 0, line.size.x, line.size.y};
+    return cache_.insert(std::move(key), std::move(s));
 }
 
 ShapedTextCache::Mask ShapedTextCache::makeMask(PangoLayout* layout, XY<int>& origin) {
@@ -54,8 +67,28 @@ ShapedTextCache::Mask ShapedTextCache::makeMask(PangoLayout* layout, XY<int>& or
 }
 
 cairo_surface_t* ShapedTextCache::maskOf(Shaped& s) {
-    if (!s.mask) s.mask = makeMask(s.layout.get(), s.maskOrigin);
+    if (!s.mask) s.mask = s.layout ? makeMask(s.layout.get(), s.maskOrigin) : makeGlyphMask(s);
     return s.mask.get();
+}
+
+ShapedTextCache::Mask ShapedTextCache::makeGlyphMask(Shaped& s) {
+    cairo_text_extents_t ink;
+    cairo_scaled_font_glyph_extents(s.font.get(), s.glyphs.data(), static_cast<int>(s.glyphs.size()), &ink);
+    // Whole pixels around the ink, and the logical box, as for a layout.
+    const int x0 = std::min(0, static_cast<int>(std::floor(ink.x_bearing))) - 1, y0 = std::min(0, static_cast<int>(std::floor(ink.y_bearing))) - 1;
+    const int x1 = std::max(s.logical.width, static_cast<int>(std::ceil(ink.x_bearing + ink.width))) + 1;
+    const int y1 = std::max(s.logical.height, static_cast<int>(std::ceil(ink.y_bearing + ink.height))) + 1;
+    const int w = x1 - x0, h = y1 - y0;
+    if (s.glyphs.empty() || long(w) * h > kLargestMask) return Mask(nullptr, cairo_surface_destroy);
+    Mask mask(cairo_image_surface_create(CAIRO_FORMAT_A8, w, h), cairo_surface_destroy);
+    cairo_t* cr = cairo_create(mask.get());
+    cairo_translate(cr, -x0, -y0);
+    cairo_set_scaled_font(cr, s.font.get());
+    cairo_show_glyphs(cr, s.glyphs.data(), static_cast<int>(s.glyphs.size()));
+    cairo_destroy(cr);
+    cairo_surface_flush(mask.get());
+    s.maskOrigin = {x0, y0};
+    return mask;
 }
 
 } // namespace Glib

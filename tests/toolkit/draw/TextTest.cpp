@@ -57,16 +57,20 @@ TEST(Text, DrawnTextStaysInItsBoxAndFollowsAlignment) {
     EXPECT_GT(inkColumns(0, 100), 3);
 }
 
-// Plain text is painted from kept glyphs, everything else through a Pango layout:
-// the two must give the same pixels, kerning, accents and faces included.
+// Plain text is painted from kept glyphs and then from their mask, everything else
+// through a Pango layout: all must give the same pixels, kerning, accents and faces
+// included.
 TEST(Text, PlainTextFromKeptGlyphsPaintsWhatPangoPaints) {
     const Glib::FontDesc base = Glib::getDefaultFont();
     for (const Glib::FontDesc& font : {base, base.withSize(base.size * 2), Glib::FontDesc("DejaVu Serif", 17)}) {
         for (const wchar_t* text : {L"AVATAR To Wa Yo", L"Reel 12, take 3 (final)", L"Ångström café été", L"fit flow office"}) {
             const BoxInt box(3, 2, 397, 58);
-            Canvas glyphs(400, 60), pango(400, 60);
-            CanvasRenderer(&glyphs).fill(Colour(0.1, 0.2, 0.3));
-            CanvasRenderer(&glyphs).render(Glib::TextDescription(box, text, font, Colour(1, 0.9, 0.5)));
+            // The first paint draws glyphs, the second the mask kept from them.
+            Canvas glyphs(400, 60), mask(400, 60), pango(400, 60);
+            for (Canvas* c : {&glyphs, &mask}) {
+                CanvasRenderer(c).fill(Colour(0.1, 0.2, 0.3));
+                CanvasRenderer(c).render(Glib::TextDescription(box, text, font, Colour(1, 0.9, 0.5)));
+            }
             CanvasRenderer(&pango).fill(Colour(0.1, 0.2, 0.3));
             PangoLayout* layout = Glib::makeLayout(toUTF8(LightweightString<wchar_t>(text)), font);
             PangoRectangle logical;
@@ -81,7 +85,7 @@ TEST(Text, PlainTextFromKeptGlyphsPaintsWhatPangoPaints) {
             int differ = 0, ink = 0;
             for (int y = 0; y < 60; ++y)
                 for (int x = 0; x < 400; ++x) {
-                    differ += glyphs.pixel(x, y) != pango.pixel(x, y);
+                    differ += glyphs.pixel(x, y) != pango.pixel(x, y) || mask.pixel(x, y) != pango.pixel(x, y);
                     ink += pango.pixel(x, y) != glyphs.pixel(0, 0);
                 }
             EXPECT_GT(ink, 100) << toUTF8(LightweightString<wchar_t>(text)).c_str();
