@@ -62,8 +62,13 @@ XY<int> ColourPicker::calcSize(unsigned int flags) {
 }
 
 const char* ColourPicker::getDisplayName(ColourData::ComponentID id) {
-    static const char* const names[] = {"R", "G", "B", "A"};
-    return id >= 0 && id < 4 ? names[id] : "";
+    switch (id) {
+    case ColourData::kFirst: return "R";
+    case ColourData::kSecond: return "G";
+    case ColourData::kThird: return "B";
+    case ColourData::kAlpha: return "A";
+    }
+    return "";
 }
 
 Colour ColourPicker::getSliderColour(ColourData::ComponentID id) {

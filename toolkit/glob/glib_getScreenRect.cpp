@@ -25,8 +25,9 @@ Zn::Ptr<iImage> glib_getScreenRect(const BoxInt& area) {
             const int y = area.y2 - 1 - row;
             if (y < 0 || y >= screen.height()) continue;
             const int screenRow = screen.height() - 1 - y;
-            std::memcpy(out + static_cast<std::ptrdiff_t>(row) * stride + 4 * (x1 - area.x1),
-                        in + static_cast<std::ptrdiff_t>(screenRow) * screen.stride() + 4 * x1, static_cast<std::size_t>(4 * (x2 - x1)));
+            const std::ptrdiff_t to = static_cast<std::ptrdiff_t>(row) * stride + 4 * static_cast<std::ptrdiff_t>(x1 - area.x1);
+            const std::ptrdiff_t from = static_cast<std::ptrdiff_t>(screenRow) * screen.stride() + 4 * static_cast<std::ptrdiff_t>(x1);
+            std::memcpy(out + to, in + from, 4 * static_cast<std::size_t>(x2 - x1));
         }
     }
     return Zn::dynamicCast<iImage>(image);
