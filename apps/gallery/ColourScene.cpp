@@ -1,16 +1,22 @@
 // Colour: one colour shown on a hue-saturation wheel, in HSV, RGB, hexadecimal and
-// alpha boxes and in sliders, all bound to one value; and a drop-down button that
-// opens a small panel of named colours, which can be torn off.
+// alpha boxes and in sliders, all bound to one value; a drop-down button that
+// opens a small panel of named colours, which can be torn off; and a colour picker
+// with alpha, a swatch button that drops another, and an eye dropper beside a strip
+// of known colours.
 #include "GalleryScene.h"
 
 #include "colour/AlphaSliderAdaptor.h"
 #include "colour/AlphaTextAdaptor.h"
 #include "colour/ColourComponentAdaptor.h"
+#include "colour/ColourPicker.h"
 #include "colour/ComponentTextBox.h"
+#include "colour/DropDownColourPickerButton.h"
 #include "colour/HSColourWheel.h"
 #include "colour/HexColourAdaptor.h"
 #include "colour/LuminanceAdaptor.h"
 #include "colour/RGBComponentAdaptor.h"
+#include "colour/colourEyeDropper.h"
+#include "controls/ColRect.h"
 #include "controls/Slider.h"
 #include "core/Utf8.h"
 #include "draw/Screen.h"
@@ -65,6 +71,53 @@ public:
     }
     ValServer<ColourData> colour{ColourData(200.0, 0.6, 0.9, kColourSpaceHSV, 1.0)};
 };
+
+// Holds a picker, and hands it the colours the eye dropper beside it takes.
+class PickerPanel : public StandardPanel {
+public:
+    explicit PickerPanel(const InitArgs& args) : StandardPanel(args) {}
+    const char* idstring() const override { return "PickerPanel"; }
+    int react(const Event& e) override {
+        if (picker && e.isMessage() && e.messageText().startsWith(ColourPicker::eyeDropperPrefix)) return picker->react(e);
+        return StandardPanel::react(e);
+    }
+    ColourPicker* picker = nullptr;
+};
+
+void buildPicker(XY<int> at) {
+    const UifStd& u = UifStd::instance();
+    const int gap = u.getWidgetGap(), row = u.getRowHeight();
+    const unsigned int flags = ColourPicker::kRGBParts | ColourPicker::kAlphaGroup;
+    const XY<int> pickerSize = ColourPicker::calcSize(flags);
+    auto* p = GalleryScene::makePanel<PickerPanel>(pickerSize.x + 2 * gap + 4 * row, pickerSize.y + 3 * row + u.getTitleHeight() + 4 * gap,
+                                                   L"Colour picker", at);
+    ColourPicker::InitArgs pickerArgs(flags, ColourData(30.0, 0.8, 0.9, kColourSpaceHSV, 0.75));
+    pickerArgs.width = static_cast<unsigned short>(pickerSize.x);
+    pickerArgs.height = static_cast<unsigned short>(pickerSize.y);
+    p->picker = p->createWidget<ColourPicker>(pickerArgs, Glob::UserTopLeft(gap, gap));
+    p->picker->setName("picker");
+
+    DropDownColourPickerButton::InitArgs buttonArgs(static_cast<unsigned short>(2 * row), static_cast<unsigned short>(2 * row), flags);
+    auto* button = p->createWidget<DropDownColourPickerButton>(buttonArgs, Glob::RightOf(gap, p->picker, kAlignStart));
+    button->setName("swatch-button");
+    button->setColour(NormalisedRGB(0.2f, 0.5f, 0.9f));
+
+    colourEyeDropper::InitArgs dropperArgs(static_cast<unsigned short>(2 * row), static_cast<unsigned short>(2 * row));
+    auto* dropper = p->createWidget<colourEyeDropper>(dropperArgs, Glob::Below(2 * gap, p->picker));
+    dropper->setName("eye-dropper");
+    const Colour strip[] = {Colour(1.0, 0.0, 0.0), Colour(1.0, 0.8, 0.0), Colour(0.0, 0.6, 0.2),
+                            Colour(0.0, 0.4, 1.0), Colour(0.0, 0.0, 0.0), Colour(1.0, 1.0, 1.0)};
+    Glob* last = dropper;
+    for (const Colour& c : strip) {
+        ColRect::InitArgs swatch(ColourData(c.red(), c.green(), c.blue(), kColourSpaceRGB, 1.0), WidgetCallback(),
+                                 static_cast<unsigned short>(2 * row), static_cast<unsigned short>(2 * row));
+        auto* r = p->createWidget<ColRect>(swatch, Glob::RightOf(gap, last, kAlignCentre));
+        r->setClickable(false);
+        r->setOutline(false, kNoRedraw);
+        last = r;
+    }
+    GlobManager::instance().realize(p);
+}
 
 void buildColour() {
     const UifStd& u = UifStd::instance();
@@ -134,13 +187,15 @@ void buildColour() {
     wheel->getDataAdaptor()->forceWidgetUpdate(kNoRedraw);
 
     GlobManager::instance().realize(p);
+    buildPicker({p->getX() + p->width() + 2 * gap, p->getY() + p->height() - 600});
     Drawable::enableRedraws();
     GlobManager::instance().runUntilIdle();
 }
 
 GallerySceneRegistration colour("colour",
                                 "A colour on a hue-saturation wheel, in HSV, RGB, hexadecimal and alpha boxes and sliders, "
-                                "all bound to one value; a drop-down of named colours that can be torn off",
+                                "all bound to one value; a drop-down of named colours that can be torn off; a picker with alpha, a swatch "
+                                "button that drops one, and an eye dropper beside a strip of known colours",
                                 buildColour);
 
 } // namespace

@@ -160,6 +160,7 @@ Glob* UIBuilder::createWidgetForParam(const Zn::Ptr<iParam>& param, const Widget
     if (Zn::dynamicCast<ActionParam>(param)) return makeActionWidget(param, position, surround);
     if (Zn::dynamicCast<FontParam>(param)) return makeFontWidget(param, position, surround);
     if (Zn::dynamicCast<FileParam>(param)) return makeFileWidget(param, position, surround);
+    if (Zn::dynamicCast<ColourParam>(param)) return makeColourWidget(param, position, surround);
     return nullptr;
 }
 

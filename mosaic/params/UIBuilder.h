@@ -83,6 +83,7 @@ public:
     Glob* makeBoolWidget(const Zn::Ptr<GenericParam::iParam>& param, const WidgetPosition& position, const WidgetSurround& surround);
     Glob* makeChoiceWidget(const Zn::Ptr<GenericParam::iParam>& param, const WidgetPosition& position, const WidgetSurround& surround);
     Glob* makeFontWidget(const Zn::Ptr<GenericParam::iParam>& param, const WidgetPosition& position, const WidgetSurround& surround);
+    Glob* makeColourWidget(const Zn::Ptr<GenericParam::iParam>& param, const WidgetPosition& position, const WidgetSurround& surround);
     Glob* makeFileWidget(const Zn::Ptr<GenericParam::iParam>& param, const WidgetPosition& position, const WidgetSurround& surround);
     Glob* makeFloatWidget(const Zn::Ptr<GenericParam::iParam>& param, const WidgetPosition& position, const WidgetSurround& surround);
     Glob* makeIntWidget(const Zn::Ptr<GenericParam::iParam>& param, const WidgetPosition& position, const WidgetSurround& surround);

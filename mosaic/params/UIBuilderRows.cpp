@@ -1,10 +1,12 @@
 // The row makers of UIBuilder: one control per kind of parameter, bound to the
 // parameter's server, lined up at the legend column.
+#include "ColourAdaptor.h"
 #include "RemappingValAdaptor.h"
 #include "SliderParamHost.h"
 #include "TitledFileChooserButton.h"
 #include "TitledGlob.h"
 #include "UIBuilder.h"
+#include "colour/DropDownColourPickerButton.h"
 #include "controls/Button.h"
 #include "controls/Checkbox.h"
 #include "controls/LinkAwareMultiLineTextBox.h"
@@ -97,6 +99,24 @@ Glob* UIBuilder::makeFontWidget(const Zn::Ptr<iParam>& param, const WidgetPositi
     row->getBtn()->setDataAdaptor(adaptor);
     adaptor->forceWidgetUpdate(kNoRedraw);
     finishRow(param, row, kNoRedraw, {row->getBtn()});
+    return row;
+}
+
+Glob* UIBuilder::makeColourWidget(const Zn::Ptr<iParam>& param, const WidgetPosition& position, const WidgetSurround& surround) {
+    auto& p = dynamic_cast<ColourParam&>(*param);
+    const int h = rowHeight();
+    const auto side = static_cast<unsigned short>(std::max(0, h - 2 * UifStd::instance().getIndentWidth()));
+    DropDownColourPickerButton::InitArgs button(side, side);
+    button.flat = true;
+    TitledGlob<DropDownColourPickerButton>::InitArgs args(param->getLegend(), button, width_, static_cast<unsigned short>(h));
+    auto* row = createRow<TitledGlob<DropDownColourPickerButton>>(args, position, surround);
+    DropDownColourPickerButton* swatch = row->control();
+    swatch->setStyle(Button::kFlatDropDown);
+    swatch->setColour(p.getValue());
+    swatch->setDataAdaptor(adaptorOn<ColourAdaptor>(p));
+    swatch->getDataAdaptor()->forceWidgetUpdate(kNoRedraw);
+    // The swatch is no tab stop: a picker is opened with the mouse.
+    finishRow(param, row, kNoRedraw);
     return row;
 }
 

@@ -2,6 +2,7 @@ list(APPEND MOSAIC_SOURCES
   params/ActiveConstraint.cpp
   params/AttribValuePair.cpp
   params/ChangeBroadcaster.cpp
+  params/ColourAdaptor.cpp
   params/HostPanel.cpp
   params/Param.cpp
   params/ParamBase.cpp

@@ -9,6 +9,7 @@
 #include "glob/GlobManager.h"
 #include "glob/InputDispatcher.h"
 #include "glob/Messaging.h"
+#include "glob/glib_setCursor.h"
 #include "platform/OS.h"
 
 #include <SDL.h>
@@ -227,6 +228,7 @@ void SdlBackend::handle(const void* raw) {
 void SdlBackend::updateCursor() {
     Glob* hover = GlobManager::instance().input().hover();
     MouseCursorID id = hover ? hover->contextCursor(hover->screenXYToGlobXY(GlobManager::instance().input().mousePos())) : kCursorArrow;
+    if (auto forced = glib_forcedCursor()) id = *forced;
     if (id == impl_->cursor || id < kCursorArrow || id > kCursorEyeDropper) return;
     impl_->cursor = id;
     if (SDL_Cursor* c = impl_->cursors[id - kCursorArrow]) SDL_SetCursor(c);

@@ -31,10 +31,12 @@ XY<int> WidgetGroup::calcSizeForContents(const XY<int>& userSize, const UIString
     return {std::max(0, userSize.x) + 2 * inset, std::max(0, userSize.y) + inset + legendHeight(!title.empty(), font)};
 }
 
-int WidgetGroup::calcHeightForRows(int rows, int rowHeight, int rowGap) {
+int WidgetGroup::calcHeightForRows(int rows, int rowHeight, int rowGap) { return calcHeightForRows(rows, rowHeight, rowGap, 1); }
+
+int WidgetGroup::calcHeightForRows(int rows, int rowHeight, int rowGap, int legend) {
     rows = std::max(0, rows);
     const int content = rows * std::max(0, rowHeight) + std::max(0, rows - 1) * std::max(0, rowGap);
-    return content + frameInset() + legendHeight(true);
+    return content + frameInset() + legendHeight(legend != 0);
 }
 
 void WidgetGroup::setTitle(const UIString& title, const Glib::FontDesc& font, eRedrawFlag flag) {

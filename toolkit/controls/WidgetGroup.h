@@ -37,6 +37,8 @@ public:
     static XY<int> calcSizeForContents(const XY<int>& userSize, const UIString& title, const Glib::FontDesc& font = {});
     // The height of a group with a legend holding `rows` rows of `rowHeight`, `rowGap` apart.
     static int calcHeightForRows(int rows, int rowHeight, int rowGap);
+    // The same for a group with a legend (`legend` non-zero) or without one.
+    static int calcHeightForRows(int rows, int rowHeight, int rowGap, int legend);
 
     BoxInt getUserArea() const override;
     // Where the frame's line runs, and the box the legend is written in.

@@ -45,5 +45,6 @@ list(APPEND GLOBKIT_SOURCES
   controls/VerticalScrollingBase.cpp
   controls/Warn.cpp
   controls/WidgetGroup.cpp
+  controls/ZnTooltipsEnable.cpp
   controls/WStringEditor.cpp
 )

@@ -6,6 +6,10 @@
 
 XY<int> glib_getMousePos() { return GlobManager::instance().input().mousePos(); }
 
+int mouse_get_current_x() { return glib_getMousePos().x; }
+
+int mouse_get_current_y() { return glib_getMousePos().y; }
+
 void mouse_canvas_connect(Canvas* canvas) {
     if (!canvas) GlobManager::instance().input().releaseCapture();
 }

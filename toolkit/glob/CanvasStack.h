@@ -9,6 +9,8 @@ class Canvas;
 
 // The mouse's last position on the screen.
 XY<int> glib_getMousePos();
+int mouse_get_current_x();
+int mouse_get_current_y();
 // With null, ends any capture of the mouse, so that the next events go wherever
 // the mouse is (as before handing a drag to another program). A canvas is not
 // captured by this call: a press on a glob captures the mouse already.

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "core/Event.h"
+#include "core/FilterStack.h"
 #include "core/IdStamp.h"
 #include "core/iObject.h"
 
 /// Something that takes events. Every handler carries an IdStamp and is listed in a
 /// registry of live handlers for its whole life, so that a pointer can be checked
 /// without touching the object it may no longer denote.
-class EventHandler : public virtual iObject {
+class EventHandler : public virtual iObject, public FilterStackable<Event> {
 public:
     EventHandler();
     ~EventHandler() override;
@@ -16,6 +17,9 @@ public:
 
     // The entry point of every event; returns non-zero when the event was consumed.
     virtual int handleEvent(const Event& e) { return 0; }
+    // An event offered ahead of all routing, once this handler is on the event
+    // intercept stack (getEventInterceptStack); true swallows it. Takes nothing here.
+    bool fsFilterThis(const Event& e, void* cookie) override { return false; }
     virtual const char* idstring() const { return "EventHandler"; }
 
     const IdStamp& stamp() const { return stamp_; }

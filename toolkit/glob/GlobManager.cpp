@@ -3,6 +3,7 @@
 #include "Glob.h"
 #include "InputDispatcher.h"
 #include "Messaging.h"
+#include "MouseListeners.h"
 #include "draw/Canvas.h"
 #include "draw/Screen.h"
 
@@ -306,6 +307,7 @@ void GlobManager::setEventObserver(EventObserver observer) { eventObserver() = s
 void GlobManager::dispatch(const Event& e) {
     if (!onUIThread()) return;
     input_->dispatch(e);
+    MouseListeners::notify(e);
     if (const EventObserver& o = eventObserver()) o(e);
     deleteDoomed();
 }

@@ -2,6 +2,7 @@
 
 #include "Glob.h"
 #include "GlobManager.h"
+#include "getEventInterceptStack.h"
 
 #include <chrono>
 #include <cstdlib>
@@ -153,6 +154,7 @@ void InputDispatcher::dispatch(const Event& event) {
     Event e = event;
     if (mouse_event(e)) {
         mouse_ = e.screenPos();
+        if (getEventInterceptStack().filter(e)) return;
         if (moveWithMouse(e)) return;
         if (e.type() == Event::kMouseDown && !outsideWatchers_.empty() && pressedOutside(e)) return;
         Glob* target = targetForMouse(e);
@@ -172,6 +174,7 @@ void InputDispatcher::dispatch(const Event& event) {
         return;
     }
     if (e.type() == Event::kKeyPress || e.type() == Event::kKeyRelease || e.type() == Event::kTextInput) {
+        if (getEventInterceptStack().filter(e)) return;
         Glob* target = targetForKeys();
         if (target && !intercepted(target, e)) bubble(target, e);
     }

@@ -10,7 +10,8 @@ class Glob;
 /// Routes input in screen coordinates to globs. The mouse goes to the deepest glob
 /// under it (or to the glob that took the button down, until it is released), keys
 /// and typed text to the glob with keyboard focus; either bubbles up through the
-/// parents until one consumes it. Every pointer it keeps is checked by stamp.
+/// parents until one consumes it. The event intercept stack sees mouse and key
+/// events before all of that. Every pointer it keeps is checked by stamp.
 class InputDispatcher {
 public:
     void dispatch(const Event& e);

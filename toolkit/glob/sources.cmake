@@ -5,11 +5,15 @@ list(APPEND GLOBKIT_SOURCES
   glob/EventHandler.cpp
   glob/FileDrag.cpp
   glob/fireCallback.cpp
+  glob/getEventInterceptStack.cpp
   glob/glib_getPosForWindow.cpp
+  glob/glib_getScreenRect.cpp
+  glob/glib_setCursor.cpp
   glob/Glob.cpp
   glob/GlobManager.cpp
   glob/InputDispatcher.cpp
   glob/MessageQueue.cpp
+  glob/MouseListeners.cpp
   glob/Messaging.cpp
   glob/SuspendRefreshOffToggle.cpp
   glob/TabOrderManager.cpp

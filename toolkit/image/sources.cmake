@@ -3,4 +3,5 @@ list(APPEND GLOBKIT_SOURCES
   image/GPUImage.cpp
   image/HostImage.cpp
   image/IconCache.cpp
+  image/iPixelGuard.cpp
 )

@@ -11,6 +11,7 @@ list(APPEND GLOBKIT_SOURCES
   platform/IPAddress.cpp
   platform/getSystemLogDirectory.cpp
   platform/JSON.cpp
+  platform/LogBoth.cpp
   platform/JSONBuilder.cpp
   platform/JSONElement.cpp
   platform/OS.cpp

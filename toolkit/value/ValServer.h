@@ -67,6 +67,10 @@ public:
         return true;
     }
 
+    // Stores without asking the manager or telling anyone: clients show the old
+    // value until they next read it.
+    void storeQuietly(const T& v) { value_.store(v, this->criticalSection()); }
+
     T value() const { return value_.load(this->criticalSection()); }
     ValManagerBase<T>* manager() const { return manager_; }
     void setManager(ValManagerBase<T>* m) { manager_ = m; }

@@ -1,4 +1,5 @@
 list(APPEND MOSAIC_TEST_SOURCES
+  mosaic/params/ColourRowTest.cpp
   mosaic/params/ControlsRoadTest.cpp
   mosaic/params/ParamConstraintsTest.cpp
   mosaic/params/ParamsStateTest.cpp

@@ -7,4 +7,5 @@ list(APPEND GLOBKIT_TEST_SOURCES
   toolkit/glob/MessagingTest.cpp
   toolkit/glob/ProgressSupportTest.cpp
   toolkit/glob/RedrawTest.cpp
+  toolkit/glob/ScreenGrabTest.cpp
 )

@@ -1,0 +1,6 @@
+#include "getEventInterceptStack.h"
+
+FilterStack<Event>& getEventInterceptStack() {
+    static FilterStack<Event> stack;
+    return stack;
+}
