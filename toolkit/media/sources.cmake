@@ -3,13 +3,20 @@ list(APPEND GLOBKIT_SOURCES
   media/CompressionFormat.cpp
   media/CompressionTable.cpp
   media/DigitalVideoFormats.cpp
+  media/DiskManager.cpp
+  media/DiskScanner.cpp
+  media/DiskSources.cpp
+  media/DiskWatcher.cpp
   media/FFmpegWriters.cpp
   media/FileTypeTable.cpp
   media/FileWriterInfo.cpp
   media/Format.cpp
   media/FormatUID.cpp
   media/FrameRate.cpp
+  media/MediaDrive.cpp
+  media/MountTable.cpp
   media/ShotVideoMetadata.cpp
   media/VideoCompressionInfo.cpp
   media/ZnExport.cpp
+  media/bytesAsString.cpp
 )

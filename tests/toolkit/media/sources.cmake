@@ -1,4 +1,5 @@
 list(APPEND GLOBKIT_TEST_SOURCES
   toolkit/media/MediaValuesTest.cpp
   toolkit/media/CompressionTest.cpp
+  toolkit/media/DiskManagerTest.cpp
 )
