@@ -1,6 +1,8 @@
 #pragma once
 
 #include "controls/DropDownMenuButton.h"
+#include "core/Guard.h"
+#include "core/NotifyMsg.h"
 #include "media/DriveId.h"
 
 #include <vector>
