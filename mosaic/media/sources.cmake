@@ -8,4 +8,5 @@ list(APPEND MOSAIC_SOURCES
   media/StoredVideoFormat.cpp
   media/TitledDiskButton.cpp
   media/TitledFileFormatButton.cpp
+  media/UIHWDeviceManager.cpp
 )

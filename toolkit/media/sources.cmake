@@ -16,7 +16,14 @@ list(APPEND GLOBKIT_SOURCES
   media/MediaDrive.cpp
   media/MountTable.cpp
   media/ShotVideoMetadata.cpp
+  media/SoftwareAudioMixer.cpp
+  media/V4L2DeviceDriver.cpp
   media/VideoCompressionInfo.cpp
+  media/ZnAudioResource.cpp
+  media/ZnDeviceDriverManager.cpp
   media/ZnExport.cpp
+  media/ZnPluginManagerIter.cpp
+  media/ZnVideoResourceInfo.cpp
   media/bytesAsString.cpp
+  media/console_reinit.cpp
 )

@@ -3,4 +3,5 @@ list(APPEND MOSAIC_TEST_SOURCES
   mosaic/media/CompressionButtonTest.cpp
   mosaic/media/DiskButtonTest.cpp
   mosaic/media/StoredVideoFormatTest.cpp
+  mosaic/media/UIHWDeviceManagerTest.cpp
 )
