@@ -70,12 +70,13 @@ std::vector<MediaDrive> MountTable::parse(std::string_view text) {
     while (at < text.size()) {
         const std::size_t end = std::min(text.find('\n', at), text.size());
         Line line;
-        if (readLine(text.substr(at, end - at), line) && !isPseudoFileSystem(line.fsType) && line.root == "/" && devices.insert(line.device).second) {
+        if (readLine(text.substr(at, end - at), line) && line.root == "/") {
             MediaDrive d;
             d.mountPoint = decode(line.mountPoint);
             d.source = decode(line.source);
             d.fsType = decode(line.fsType);
-            volumes.push_back(d);
+            // A NUL ends a decoded field early: a path that ends before it starts is none.
+            if (!d.mountPoint.empty() && !isPseudoFileSystem(d.fsType.view()) && devices.insert(line.device).second) volumes.push_back(d);
         }
         at = end + 1;
     }
