@@ -3,4 +3,5 @@ list(APPEND GLOBKIT_TEST_SOURCES
   toolkit/media/CompressionTest.cpp
   toolkit/media/DeviceLayerTest.cpp
   toolkit/media/DiskManagerTest.cpp
+  toolkit/media/DiskMountTest.cpp
 )
