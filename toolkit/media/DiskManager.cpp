@@ -2,6 +2,7 @@
 
 #include "DiskWatcher.h"
 #include "core/MethodCallback.h"
+#include "glob/GlobManager.h"
 #include "value/UIThreadCallback.h"
 
 #include <algorithm>
@@ -23,6 +24,9 @@ bool sameVolumes(const std::vector<MediaDrive>& a, const std::vector<MediaDrive>
 } // namespace
 
 DiskManager::DiskManager() {
+    // Made first, the glob manager is destroyed after this one at exit, so the
+    // watcher never posts into a queue that has gone.
+    GlobManager::instance();
     Zn::Ptr<iCallbackBase<int, NotifyMsg>> call(new MethodCallback<DiskManager, NotifyMsg, int>(this, &DiskManager::receive));
     delivery_ = Zn::Ptr<iCallbackBase<int, NotifyMsg>>(new UIThreadCallback<NotifyMsg>(call, true));
     startWatching(DiskSources());

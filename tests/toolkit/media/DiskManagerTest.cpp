@@ -62,10 +62,6 @@ TEST(DiskScanner, AVolumeKeepsItsIdAcrossRescansAndRemountsAndNoneIsAutomatic) {
 
 class DiskManagerWatch : public TestKit::ScreenTest {
 protected:
-    void TearDown() override {
-        DiskManager::watch(DiskSources{});
-        TestKit::ScreenTest::TearDown();
-    }
     static Zn::Ptr<Zn::Guard> countNotices(std::atomic<int>& count) {
         return DiskManager::addListener(Zn::Ptr<iCallbackBase<int, NotifyMsg>>(new FunctionCallback<NotifyMsg, int>([&count](const NotifyMsg& m) {
             if (m.name() == DiskManager::MediaLocationsChangeMsg) ++count;
@@ -79,6 +75,7 @@ TEST_F(DiskManagerWatch, MountsAndUnmountsArriveOnTheUIThreadAndSpaceAloneSendsN
     std::atomic<double> freeGb{2.0};
     std::atomic<bool> offUIThread{true};
     table.write(mountLine(1, "8:1", "/"));
+    const DiskTest::WatchGuard stopWatching;
     DiskManager::watch(DiskTest::sources(table, [&](const LightweightString<char>&) {
         if (co_pid() == 0) offUIThread = false;
         return DiskTest::gigabytes(freeGb);
@@ -113,6 +110,7 @@ TEST_F(DiskManagerWatch, AVolumeWhoseStatvfsHangsLeavesTheUIThreadRunning) {
     std::mutex lock;
     std::condition_variable cv;
     bool released = false, blocked = false;
+    const DiskTest::WatchGuard stopWatching;
     DiskManager::watch(DiskTest::sources(table, [&](const LightweightString<char>& at) -> std::optional<DiskSources::Space> {
         if (at != "/net/dead") return DiskTest::gigabytes(3);
         std::unique_lock<std::mutex> hold(lock);

@@ -59,6 +59,15 @@ inline DiskSources sources(const TableFile& table, DiskSources::SpaceFunction sp
     return s;
 }
 
+// Goes back to watching the machine when it goes out of scope: declared after what a
+// test's space function refers to, it stops that function's watcher first.
+struct WatchGuard {
+    WatchGuard() = default;
+    WatchGuard(const WatchGuard&) = delete;
+    WatchGuard& operator=(const WatchGuard&) = delete;
+    ~WatchGuard() { DiskManager::watch(DiskSources{}); }
+};
+
 inline std::optional<DiskSources::Space> gigabytes(double free) { return DiskSources::Space{free * 4096, free * 1024}; }
 
 // Runs the loop until `done` holds, or a generous number of rounds has passed.
