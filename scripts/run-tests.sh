@@ -57,7 +57,7 @@ if [ "${MOSAIC_SKIP_SANITIZERS:-0}" != 1 ]; then
     -DMOSAIC_BUILD_TESTS=OFF -DMOSAIC_BUILD_BENCH=OFF -DMOSAIC_BUILD_APPS=OFF >/dev/null
   cmake --build build-fuzz -j "$jobs"
   # As many targets at once as there are cores, each on a copy of its seeds.
-  printf '%s\n' tutorial saved_state builder media_text entry | xargs -P "$jobs" -I{} bash -c 'fuzz_one {}'
+  printf '%s\n' tutorial saved_state builder media_text entry device_text | xargs -P "$jobs" -I{} bash -c 'fuzz_one {}'
   stage "AddressSanitizer + UndefinedBehaviorSanitizer"
   ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 LSAN_OPTIONS="suppressions=$PWD/scripts/lsan.supp" UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
     run_suite build-asan -DCMAKE_BUILD_TYPE=Debug -DMOSAIC_ASAN=ON -DMOSAIC_BUILD_BENCH=OFF

@@ -7,6 +7,7 @@
 #include "controls/Slider.h"
 #include "controls/TextBox.h"
 #include "draw/Screen.h"
+#include "platform/EditorPreferences.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -153,4 +154,27 @@ TEST_F(Probe, TheMediaSceneReportsItsChoicesAndTheCompressionFollowsTheFileType)
     EXPECT_FALSE(TestKit::find("compression")->isActive());
     ASSERT_TRUE(probe.capture());
     EXPECT_TRUE(reports("value fileType FileFormatButton DV"));
+}
+
+TEST_F(Probe, TheMediaSceneStoresTheChosenDeviceAndItsOutputFormat) {
+    ASSERT_TRUE(build("media"));
+    auto choose = [](const char* name, const std::wstring& text) {
+        auto* b = TestKit::find<DropDownMenuButton>(name);
+        ASSERT_TRUE(b);
+        TestKit::click(TestKit::centreOf(b));
+        Menu* menu = b->getMenu();
+        ASSERT_TRUE(menu);
+        const auto& rows = b->getItems();
+        const auto it = std::find_if(rows.begin(), rows.end(), [&](const MenuItem& m) { return m.text().getString() == text.c_str(); });
+        ASSERT_NE(it, rows.end());
+        const BoxInt box = menu->rowBox(static_cast<int>(it - rows.begin()));
+        TestKit::click(TestKit::screenPointOf(menu, {(box.x1 + box.x2) / 2, (box.y1 + box.y2) / 2}));
+        TestKit::pump();
+    };
+    choose("device", L"Test Device 1");
+    EXPECT_EQ(prefs().getPreference("HardwareIODevice", ""), "Test Device 1");
+    choose("outputFormat", L"1080p 25");
+    const LightweightString<char> stored = prefs().getPreference("HardwareIOFormat:Test Device 1", "");
+    EXPECT_NE(stored.view().find("\"uid\": \"27\""), std::string_view::npos) << stored.c_str();
+    EXPECT_TRUE(TestKit::find("drive"));
 }

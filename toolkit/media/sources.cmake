@@ -3,13 +3,27 @@ list(APPEND GLOBKIT_SOURCES
   media/CompressionFormat.cpp
   media/CompressionTable.cpp
   media/DigitalVideoFormats.cpp
+  media/DiskManager.cpp
+  media/DiskScanner.cpp
+  media/DiskSources.cpp
+  media/DiskWatcher.cpp
   media/FFmpegWriters.cpp
   media/FileTypeTable.cpp
   media/FileWriterInfo.cpp
   media/Format.cpp
   media/FormatUID.cpp
   media/FrameRate.cpp
+  media/MediaDrive.cpp
+  media/MountTable.cpp
   media/ShotVideoMetadata.cpp
+  media/SoftwareAudioMixer.cpp
+  media/V4L2DeviceDriver.cpp
   media/VideoCompressionInfo.cpp
+  media/ZnAudioResource.cpp
+  media/ZnDeviceDriverManager.cpp
   media/ZnExport.cpp
+  media/ZnPluginManagerIter.cpp
+  media/ZnVideoResourceInfo.cpp
+  media/bytesAsString.cpp
+  media/console_reinit.cpp
 )

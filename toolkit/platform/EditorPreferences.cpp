@@ -13,6 +13,12 @@ EditorPreferences::EditorPreferences(const LightweightString<char>& folder) : fo
 
 LightweightString<char> EditorPreferences::filePath() const { return folder_ + "/preferences.json"; }
 
+void EditorPreferences::reload() {
+    const std::lock_guard<std::mutex> g(lock_);
+    values_ = nlohmann::json::object();
+    load();
+}
+
 void EditorPreferences::load() {
     std::ifstream in(filePath().c_str(), std::ios::binary);
     if (!in) return;

@@ -28,6 +28,8 @@ public:
     void setPreference(const LightweightString<char>& key, const LightweightString<wchar_t>& value) const;
     void setPreference(const LightweightString<char>& key, const char* value) const { setPreference(key, LightweightString<char>(value)); }
 
+    // Reads the file again, as a process started now would.
+    void reload();
     bool hasPreference(const LightweightString<char>& key) const;
     void removePreference(const LightweightString<char>& key) const;
     LightweightString<char> filePath() const;

@@ -1,0 +1,6 @@
+#include "ZnAudioResource.h"
+
+ZnAudioResource& ZnAudioResource::instance() {
+    static ZnAudioResource resource;
+    return resource;
+}
