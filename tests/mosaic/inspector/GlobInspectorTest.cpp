@@ -78,7 +78,7 @@ TEST_F(Inspector, ACardClickOutlinesItsTargetAndTheNextTakesTheOutlineAway) {
     ASSERT_NE(rect, nullptr);
     EXPECT_EQ(rect->screenPos(), button->screenPos());
     EXPECT_EQ(rect->size(), button->size());
-    EXPECT_EQ(GlobManager::instance().globAt(TestKit::centreOf(button)), button) << "the outline lets the mouse through";
+    EXPECT_EQ(GlobManager::instance().globAt(TestKit::centreOf(button), inspector), button) << "the outline lets the mouse through";
     TestKit::click(card(0));
     TestKit::pump();
     EXPECT_EQ(TestKit::find<SelectionRectangle>("SelectionRectangle"), nullptr);
@@ -153,4 +153,9 @@ TEST_F(Inspector, TheGlobTreeListsPanelsAndDetailsTheChosenWidget) {
     ASSERT_EQ(tree->getDetails().size(), expected.size());
     for (std::size_t i = 0; i < expected.size(); ++i) EXPECT_EQ(tree->getDetails()[i].str(), expected[i]);
     EXPECT_TRUE(GlobTreePanel::detailsOf(nullptr).empty());
+
+    button->setMaxSize(XY<int>(60, 25));
+    button->resize(200, 200);
+    EXPECT_EQ(button->size(), XY<int>(60, 25)) << "resizing stops at the largest size";
+    EXPECT_EQ(GlobTreePanel::detailsOf(button)[5].str(), L"Maximum Size : 60 x 25");
 }
