@@ -7,6 +7,7 @@
 #include "glob/Messaging.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -53,9 +54,14 @@ public:
 
     int react(const Event& e) override {
         if (glyph_ == kGrip) return 0; // the panel drags its frame
-        if (mouse_down_event(e) && mouse_left_event(e)) return 1;
+        if (mouse_down_event(e) && mouse_left_event(e)) {
+            pressed_ = true;
+            return 1;
+        }
         if (mouse_up_event(e) && mouse_left_event(e)) {
-            if (BoxInt(0, 0, width(), height()).contains(e.pos()) && action_) action_(this);
+            // A release that ends a press begun elsewhere is not a click.
+            bool clicked = std::exchange(pressed_, false) && BoxInt(0, 0, width(), height()).contains(e.pos());
+            if (clicked && action_) action_(this);
             return 1;
         }
         return 0;
@@ -70,6 +76,7 @@ private:
     Glyph glyph_;
     std::function<void(Glob*)> action_;
     bool hot_ = false;
+    bool pressed_ = false;
 };
 
 constexpr int kFurnitureBits =

@@ -130,6 +130,10 @@ TEST_F(Input, CloseBoxAndTitleDragWork) {
         return !close;
     });
     ASSERT_NE(close, nullptr);
+    // A press that began elsewhere and ends over the box is not a click on it.
+    TestKit::mouseDown({20, 20});
+    TestKit::mouseUp(TestKit::centreOf(close));
+    EXPECT_TRUE(EventHandler::valid(p, stamp));
     TestKit::click(close);
     EXPECT_FALSE(EventHandler::valid(p, stamp));
 }
