@@ -20,7 +20,8 @@ AngleIndicatorWidget::AngleIndicatorWidget(unsigned short size, const Palette& p
 
 AngleIndicatorWidget::AngleIndicatorWidget(const StandardPanel::InitArgs& args) : StandardPanel(args) {}
 
-XY<int> AngleIndicatorWidget::getCentre() const { return {static_cast<int>(width() * 0.5 + 0.5), static_cast<int>(height() * 0.5 + 0.5)}; }
+// Half the size rounded up: a dial of odd size has a middle pixel.
+XY<int> AngleIndicatorWidget::getCentre() const { return {(width() + 1) / 2, (height() + 1) / 2}; }
 
 int AngleIndicatorWidget::getRadius() const { return width() >> 1; }
 
@@ -88,7 +89,7 @@ void AngleIndicatorWidget::handleMouseContainment(bool inside) {
 
 void AngleIndicatorWidget::drawBackground() {
     Glib::UpdateDeferrer deferrer;
-    Glob::drawBackground();
+    StandardPanel::drawBackground();
     const Palette& p = getPalette();
     const Colour needle = p.text(isActive() ? kTextNormal : kTextDimmed);
     const Colour marks = p.window(kShadeLighter);
