@@ -1,6 +1,7 @@
 #include "controls/MenuData.h"
 #include "MenusTestSupport.h"
 #include "controls/MessageBase.h"
+#include "glob/Messaging.h"
 #include "platform/CommandRegistrar.h"
 
 #include <string>
