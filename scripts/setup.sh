@@ -6,7 +6,7 @@ set -euo pipefail
 packages=(
   build-essential cmake pkg-config ninja-build ccache clang libclang-rt-14-dev clang-format clang-tidy doxygen
   libcairo2-dev libpango1.0-dev libfontconfig-dev fonts-dejavu-core
-  nlohmann-json3-dev libloki-dev libsdl2-dev libx11-dev
+  nlohmann-json3-dev libsimdjson-dev libloki-dev libsdl2-dev libx11-dev
   libavformat-dev libavcodec-dev libswscale-dev libavutil-dev
   libgtest-dev libgmock-dev googletest libbenchmark-dev
   xvfb xdotool xauth

@@ -79,6 +79,7 @@ void buildEntry() {
     f->m_add_element(new fo_bool(w, h, 6, L"Loop playback", true));
     f->m_set_element_entry(0, L"2");
     f->m_set_element_entry(3, L"/media/clips");
+    f->m_set_element_entry(5, L"Sans"); // the font until the owner is asked for the list
 
     GlobManager::instance().realize(p);
     GlobManager::instance().realize(f);

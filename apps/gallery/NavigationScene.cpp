@@ -10,6 +10,8 @@
 #include "panels/SplitTabsWidget.h"
 #include "panels/WizardPanel.h"
 
+#include <algorithm>
+
 namespace {
 
 TextLabel* label(const wchar_t* text, int w = 100, int h = 100) {
@@ -53,7 +55,8 @@ void buildWizard(const Screen& screen) {
 
 void buildPageIndex(const Screen& screen) {
     const int row = UifStd::instance().getRowHeight();
-    auto* p = GalleryScene::makePanel(560, 2 * row + UifStd::instance().getTitleHeight() + 20, L"Clips", {500, screen.height() - 60 - 2 * row - 60});
+    const int width = 560, x = std::max(0, std::min(500, screen.width() - width - 20)); // whole on a narrow screen
+    auto* p = GalleryScene::makePanel(width, 2 * row + UifStd::instance().getTitleHeight() + 20, L"Clips", {x, screen.height() - 60 - 2 * row - 60});
     PageIndexWidget::InitArgs args(200, 10, 0, static_cast<unsigned short>(row));
     args.currentPage = 57;
     p->createWidget<PageIndexWidget>(args, Glob::UserCentre(0, 0))->setName("clipPages");

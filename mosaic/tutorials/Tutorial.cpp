@@ -140,16 +140,36 @@ Tutorial::Tutorial(const LightweightString<wchar_t>& path) { load(path); }
 
 Tutorial::Tutorial(const Tutorial& other)
     : Zn::InternalRefCount(), JSON::iPersistable(), name_(other.name_), category_(other.category_), path_(other.path_),
-      components_(other.components_) {
+      components_(other.getComponents()) {
     for (const Zn::Ptr<Phase>& p : other.phases_) phases_.push_back(Zn::Ptr<Phase>(new Phase(*p)));
 }
 
+Zn::Ptr<Tutorial> Tutorial::listed(const LightweightString<wchar_t>& path) {
+    Zn::Ptr<Tutorial> t(new Tutorial);
+    t->path_ = path;
+    if (Zn::Ptr<JSON::Element> top = JSON::parseFileTop(path)) {
+        t->name_ = top->getWString("name");
+        t->category_ = top->getWString("category");
+        t->bodyPending_ = true;
+    }
+    return t;
+}
+
+void Tutorial::ensureBody() const {
+    if (!bodyPending_) return;
+    bodyPending_ = false;
+    if (Zn::Ptr<JSON::Element> root = JSON::parseFile(path_)) readBody(*root);
+}
+
 void Tutorial::load(const LightweightString<wchar_t>& path) {
+    ensureBody();
     path_ = path;
     if (Zn::Ptr<JSON::Element> root = JSON::parseFile(path)) read(root);
 }
 
 void Tutorial::save(const LightweightString<wchar_t>& path) {
+    // Written whole: a listed tutorial reads the rest of itself before its path changes.
+    ensureBody();
     if (&path != &path_) path_ = path;
     TextFile file(path_, false);
     JSON::Builder builder(2);
@@ -159,6 +179,7 @@ void Tutorial::save(const LightweightString<wchar_t>& path) {
 }
 
 void Tutorial::write(JSON::Builder& b) const {
+    ensureBody();
     b.startChild(nullptr);
     b.add("name", name_, true);
     b.add("category", category_, true);
@@ -184,9 +205,15 @@ void Tutorial::write(JSON::Builder& b) const {
 }
 
 int Tutorial::read(const Zn::Ptr<JSON::Element>& e) {
+    ensureBody();
     name_ = e->getWString("name");
     category_ = e->getWString("category");
-    Zn::Ptr<JSON::Element> phases = e->getChild("phases"), components = e->getChild("components");
+    readBody(*e);
+    return 1;
+}
+
+void Tutorial::readBody(const JSON::Element& e) const {
+    Zn::Ptr<JSON::Element> phases = e.getChild("phases"), components = e.getChild("components");
     for (unsigned short i = 0; components && i < components->getNumChildren(); ++i) {
         Zn::Ptr<JSON::Element> c = components->getChild(i);
         UIComponent u;
@@ -201,29 +228,34 @@ int Tutorial::read(const Zn::Ptr<JSON::Element>& e) {
         phases_.push_back(phase);
         phase->read(phases->getChild(i));
     }
-    return 1;
 }
 
 LightweightString<wchar_t> Tutorial::getID() const { return stripPath(path_); }
 
-Zn::Ptr<Tutorial::Phase> Tutorial::getPhase(unsigned short index) { return index < phases_.size() ? phases_[index] : Zn::Ptr<Phase>(); }
+Zn::Ptr<Tutorial::Phase> Tutorial::getPhase(unsigned short index) {
+    ensureBody();
+    return index < phases_.size() ? phases_[index] : Zn::Ptr<Phase>();
+}
 
 Zn::Ptr<const Tutorial::Phase> Tutorial::getPhase(unsigned short index) const {
+    ensureBody();
     return index < phases_.size() ? Zn::Ptr<const Phase>(phases_[index]) : Zn::Ptr<const Phase>();
 }
 
 void Tutorial::addPhase(const Zn::Ptr<Phase>& phase) {
+    ensureBody();
     if (phase) phases_.push_back(phase);
 }
 
 void Tutorial::removePhase(const Zn::Ptr<Phase>& phase) {
+    ensureBody();
     auto it = std::find(phases_.begin(), phases_.end(), phase);
     if (phase && it != phases_.end()) phases_.erase(it);
 }
 
 XY<double> Tutorial::getComponentPosition(const LightweightString<char>& type, float) const {
     XY<double> found;
-    for (const UIComponent& c : components_)
+    for (const UIComponent& c : getComponents())
         if (c.type == type) found = c.position;
     return found;
 }

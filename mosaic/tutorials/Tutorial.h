@@ -87,6 +87,10 @@ public:
     Tutorial(const Tutorial& other);
     Tutorial& operator=(const Tutorial&) = delete;
 
+    // The name and category of a file now, and the rest when first asked for: a
+    // catalogue lists a folder without building every tutorial in it. A file that does
+    // not parse gives an empty document with its path.
+    static Zn::Ptr<Tutorial> listed(const LightweightString<wchar_t>& path);
     // Reads the file; a file that does not parse leaves the document as it was, with the path set.
     void load(const LightweightString<wchar_t>& path);
     // Writes the file through a temporary file renamed over the old one.
@@ -103,22 +107,37 @@ public:
     const LightweightString<wchar_t>& getCategory() const { return category_; }
     void setCategory(const LightweightString<wchar_t>& c) { category_ = c; }
 
-    std::size_t getNumPhases() const { return phases_.size(); }
+    std::size_t getNumPhases() const {
+        ensureBody();
+        return phases_.size();
+    }
     Zn::Ptr<Phase> getPhase(unsigned short index);
     Zn::Ptr<const Phase> getPhase(unsigned short index) const;
     void addPhase(const Zn::Ptr<Phase>& phase);
     // Removes the first entry that is this very object; a copy removes nothing.
     void removePhase(const Zn::Ptr<Phase>& phase);
 
-    const std::vector<UIComponent>& getComponents() const { return components_; }
-    void addComponent(const UIComponent& c) { components_.push_back(c); }
+    const std::vector<UIComponent>& getComponents() const {
+        ensureBody();
+        return components_;
+    }
+    void addComponent(const UIComponent& c) {
+        ensureBody();
+        components_.push_back(c);
+    }
     // The position of the last component of that type; (0, 0) when there is none.
     XY<double> getComponentPosition(const LightweightString<char>& type, float unused = 0.0f) const;
 
 private:
-    std::vector<Zn::Ptr<Phase>> phases_;
+    // Reads the phases and components of a listed tutorial from its file, once.
+    void ensureBody() const;
+    void readBody(const JSON::Element& e) const;
+
+    // The body is filled in on first use, from const accessors too.
+    mutable bool bodyPending_ = false;
+    mutable std::vector<Zn::Ptr<Phase>> phases_;
     LightweightString<wchar_t> name_;
     LightweightString<wchar_t> category_;
     LightweightString<wchar_t> path_;
-    std::vector<UIComponent> components_;
+    mutable std::vector<UIComponent> components_;
 };

@@ -19,7 +19,7 @@ LightweightString<wchar_t> TutorialsManager::getLocation() { return joinPaths(OS
 
 TutorialsManager::TutorialsManager(const LightweightString<wchar_t>& location) : location_(location) {
     for (const iFileManager::DirectoryItem& item : OS()->listFolder(joinPaths(location_, L"*.ZnTutorial"), L"*", false))
-        tutorials_.push_back(Zn::Ptr<Tutorial>(new Tutorial(joinPaths(location_, item.name))));
+        tutorials_.push_back(Tutorial::listed(joinPaths(location_, item.name)));
     buildCategories();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DLList.h"
+#include "NotifyMsgTypeDictionary.h"
 #include "core/Ptr.h"
 #include "core/iCallbackBase.h"
 
@@ -11,7 +12,7 @@ public:
     explicit CallbackInvokerBase(int type) : type_(type) {}
     int type() const { return type_; }
     // True when the registration wants a notice of `type`.
-    bool typeMatch(int type) const;
+    bool typeMatch(int type) const { return type_ == type || type_ == NotifyMsgTypeDictionary::kAllMsgType; }
 
     bool released() const { return released_; }
     void markReleased() { released_ = true; }

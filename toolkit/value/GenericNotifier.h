@@ -13,20 +13,17 @@ public:
 
     virtual void issueNotification(const E& e, int type) const {
         if (!hasRegistrations()) return;
-        Notice notice{&e, type};
-        deliver(&GenericNotifier::listCallback, &notice);
+        deliver([&](CallbackInvokerBase* record) { call(record, e, type); });
     }
 
-    // Applied to each record: calls back those that want the notice.
-    static void listCallback(DLListRec* record, void* data) {
-        auto* invoker = static_cast<CallbackInvoker<E>*>(record);
-        auto* notice = static_cast<const Notice*>(data);
-        if (invoker->typeMatch(notice->type)) invoker->invoke(*notice->event);
+protected:
+    // For a caller that holds a ScopedLock on this notifier.
+    void issueHeld(const E& e, int type) const {
+        deliverHeld([&](CallbackInvokerBase* record) { call(record, e, type); });
     }
 
 private:
-    struct Notice {
-        const E* event;
-        int type;
-    };
+    static void call(CallbackInvokerBase* record, const E& e, int type) {
+        if (record->typeMatch(type)) static_cast<CallbackInvoker<E>*>(record)->invoke(e);
+    }
 };

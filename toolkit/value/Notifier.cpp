@@ -20,7 +20,7 @@ std::vector<LightweightString<char>>& names() {
 }
 } // namespace
 
-NotifyMsgTypeDictionary::NotifyMsgTypeDictionary() : allMsgType(0), notifierGoneMsgType(1) {
+NotifyMsgTypeDictionary::NotifyMsgTypeDictionary() : notifierGoneMsgType(1) {
     // Numbers 2 and 3 are the value servers' own, fixed at compile time.
     names() = {"valChanged", "preValChanged"};
 }

@@ -5,8 +5,6 @@
 
 #include <mutex>
 
-bool CallbackInvokerBase::typeMatch(int type) const { return type_ == type || type_ == NotifyMsgTypeDictionary::instance().allMsgType; }
-
 void NotifierBase::Core::release(CallbackInvokerBase* record) {
     if (!alive) return; // the record went with the notifier
     if (depth > 0) {
@@ -27,6 +25,18 @@ void NotifierBase::Core::sweep() {
     }
 }
 
+void NotifierBase::Core::leaveLast() {
+    std::shared_ptr<Core> self; // the last owner when the notifier died meanwhile: freed after unlocking
+    depth = 0;
+    if (!alive) {
+        list.clear();
+        self = std::move(keepAlive);
+    } else {
+        sweep();
+    }
+    lock.unlock();
+}
+
 NotifierBase::NotifierBase() : core_(std::make_shared<Core>()) { core_->list.ownsRecords(true); }
 
 NotifierBase::~NotifierBase() { dropRegistrations(); }
@@ -36,7 +46,10 @@ void NotifierBase::dropRegistrations() {
     MOSAIC_ASSERT(core_->depth == 0, "a notifier destroyed by a callback of its own delivery");
     core_->alive = false;
     // A delivery under way still walks the list; it empties it when it ends.
-    if (core_->depth == 0) core_->list.clear();
+    if (core_->depth == 0)
+        core_->list.clear();
+    else
+        core_->keepAlive = core_;
 }
 
 Zn::Ptr<Zn::Guard> NotifierBase::registerInternal(CallbackInvokerBase* record) {
@@ -61,24 +74,4 @@ std::size_t NotifierBase::numRegistrations() const {
     for (DLListRec* r = core_->list.first(); r; r = r->next())
         if (!static_cast<CallbackInvokerBase*>(r)->released()) ++n;
     return n;
-}
-
-void NotifierBase::deliver(DLList::ApplyFn fn, void* data) const {
-    // Held here, not through `this`: a callback that destroys the notifier leaves
-    // the loop its list to finish on.
-    const std::shared_ptr<Core> core = core_;
-    Core& c = *core;
-    std::lock_guard<CriticalSection> g(c.lock);
-    DLListRec* last = c.list.last();
-    if (!last) return;
-    ++c.depth;
-    for (DLListRec* r = c.list.first(); c.alive; r = r->next()) {
-        if (!static_cast<CallbackInvokerBase*>(r)->released()) fn(r, data);
-        if (r == last) break;
-    }
-    if (--c.depth > 0) return;
-    if (!c.alive)
-        c.list.clear();
-    else if (c.anyReleased)
-        c.sweep();
 }

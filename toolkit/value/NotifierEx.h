@@ -17,6 +17,12 @@ public:
 
 protected:
     void setSender(ValServer<T>* sender) { sender_ = sender; }
+    // Fills in the type and the sender of an event the caller made under a ScopedLock.
+    void issueHeld(NotifierEvent<T>& e, int type) const {
+        e.type = type;
+        e.sender = sender_;
+        GenericNotifier<NotifierEvent<T>>::issueHeld(e, type);
+    }
 
 private:
     ValServer<T>* sender_ = nullptr;

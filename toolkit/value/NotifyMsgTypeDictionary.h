@@ -10,7 +10,8 @@ public:
     int typeOf(const LightweightString<char>& name);
 
     // Registrations under this type hear every notice.
-    const int allMsgType;
+    static constexpr int kAllMsgType = 0;
+    const int allMsgType = kAllMsgType;
     // The notice a notifier issues as it is destroyed.
     const int notifierGoneMsgType;
 

@@ -74,10 +74,12 @@ public:
 private:
     void notify(int type) {
         if (!this->hasRegistrations()) return;
+        // The value is read under the lock that delivers it, so that the last notice
+        // of writes racing on two threads carries the value that stays.
         typename NotifierBase::ScopedLock g(*this);
         NotifierEvent<T> e;
         e.value = value();
-        this->issueNotification(e, type);
+        this->issueHeld(e, type);
     }
 
     ValueSlot<T> value_;

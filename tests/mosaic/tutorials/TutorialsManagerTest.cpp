@@ -131,6 +131,18 @@ TEST_F(Catalogue, ClonesAreOutsideTheCatalogueButShareTheFile) {
     EXPECT_EQ(Tutorial(original->getPath()).getName(), L"Overwritten");
 }
 
+TEST_F(Catalogue, AListedTutorialReadsItsPhasesWhenAskedAndKeepsThemWhenSavedElsewhere) {
+    TutorialsManager m(folder());
+    auto trim = m.getTutorial(L"T00-00-basics-trim.ZnTutorial");
+    ASSERT_TRUE(trim);
+    LightweightString<wchar_t> elsewhere = joinPaths(folder(), L"copy.ZnTutorial");
+    trim->save(elsewhere);
+    Tutorial copy(elsewhere);
+    EXPECT_EQ(copy.getName(), L"Trimming a clip");
+    EXPECT_EQ(copy.getNumPhases(), 3u);
+    EXPECT_EQ(copy.getComponentPosition("Viewer"), (XY<double>(600, 400)));
+}
+
 TEST(TutorialsManagerInstance, ListsTheTutorialsFolderOfTheDataFolder) {
     // The data folder is the test program's own (see TestKit::TestHome).
     fs::path tutorials = fs::path(toUTF8(OS()->getApplicationDataFolder()).str()) / "Tutorials";

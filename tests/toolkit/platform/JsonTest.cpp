@@ -57,6 +57,20 @@ TEST(Json, BadTextGivesNull) {
     EXPECT_FALSE(JSON::parseFile(L"/no/such/file.json"));
 }
 
+TEST(Json, TheTopOfAFileHasItsOwnValuesAndNoChildrenButTheWholeFileMustParse) {
+    TempFolder dir;
+    std::string good = dir.write("good.json", R"({"name":"A","list":[{"deep":"x"}],"n":2,"on":true,"category":"B"})");
+    std::string truncated = dir.write("truncated.json", R"({"name":"A","list":[{"deep":)");
+    auto top = JSON::parseFileTop(fromUTF8(good.c_str()));
+    ASSERT_TRUE(top);
+    EXPECT_EQ(top->getString("category"), "B") << "values after a child are read too";
+    EXPECT_EQ(top->getNumber("n", 0), 2);
+    EXPECT_TRUE(top->getBool("on", false));
+    EXPECT_EQ(top->getNumChildren(), 0);
+    EXPECT_EQ(JSON::parseFile(fromUTF8(good.c_str()))->getChild("list")->getChild(static_cast<unsigned short>(0))->getString("deep"), "x");
+    EXPECT_FALSE(JSON::parseFileTop(fromUTF8(truncated.c_str())));
+}
+
 TEST(Json, BuilderWritesWideTextAsUTF8AndBadTextWithReplacements) {
     JSON::Builder b(2);
     b.startChild(nullptr);
