@@ -18,5 +18,6 @@ list(APPEND GALLERY_SOURCES
   ProgressScene.cpp
   SampleTaskLog.cpp
   TextScene.cpp
+  TracksScene.cpp
   TutorialsScene.cpp
 )

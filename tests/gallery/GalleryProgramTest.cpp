@@ -52,12 +52,12 @@ TEST(GalleryProgram, ACommandOpensByNameAndItsPictureShowsWhatItOpened) {
     if (!HasFailure()) std::filesystem::remove_all(dir);
 }
 
-TEST(GalleryProgram, TheNavigationCommandsOpenTheirPanels) {
+TEST(GalleryProgram, TheNavigationAndInspectorCommandsOpenTheirPanels) {
     const auto dir = std::filesystem::temp_directory_path() / ("gallery-navigation-" + std::to_string(::getpid()));
     const std::pair<const char*, const char*> commands[] = {
-        {"PageIndexWidgetTest", "widget pageIndex PageIndexWidget "},
-        {"'Space Divider Test'", "widget spaceDivider SpaceDivider "},
-        {"SplitTabsWidgetTest", "widget splitTabs SplitTabsWidget "},
+        {"PageIndexWidgetTest", "widget pageIndex PageIndexWidget "}, {"'Space Divider Test'", "widget spaceDivider SpaceDivider "},
+        {"SplitTabsWidgetTest", "widget splitTabs SplitTabsWidget "}, {"'Glob Inspector'", "widget Glob Inspector GlobInspector "},
+        {"'Glob Inspector 2'", "widget globTree TreeView "},
     };
     for (const auto& [command, widget] : commands) {
         const TestKit::ProgramRun shown = gallery(dir, std::string("--command ") + command + " --screenshots '" + dir.string() + "' --print-widgets");

@@ -16,6 +16,8 @@ void Button::setLabel(const UIString& label, eRedrawFlag flag) {
     if (flag == kRedraw) redraw();
 }
 
+void Button::setMessage(const LightweightString<char>& message) { callback_ = WidgetCallback(callback_.callback(), message, callback_.payload()); }
+
 void Button::setStyle(int style, int style2) {
     style_ = style;
     style2_ = style2;
@@ -46,6 +48,8 @@ void Button::setStateColour(button_state state, const Colour& colour) {
     stateColours_[state] = colour;
     hasStateColour_[state] = true;
 }
+
+Colour Button::getBackCol(button_state state) const { return hasStateColour_[state] ? stateColours_[state] : getPalette().window(); }
 
 void Button::setCols(const Colour& face, const Colour& text) {
     setStateColour(kButtonUp, face);
@@ -108,13 +112,18 @@ void Button::drawBackground() {
         r.render(Glib::ImageDescription(icon_, icon_->fittedInto(iconBox()), isActive() ? 1.0 : 0.4));
     else if (glyph_)
         ArrowGlyph::draw(r, iconBox(), *glyph_, getPalette().text(isActive() ? kTextNormal : kTextDimmed));
-    drawLabel(label_, labelBox());
+    drawText();
+}
+
+void Button::drawText() { drawLabel(label_, labelBox()); }
+
+Colour Button::textColour() const {
+    const std::optional<Colour>& own = textColours_[state_];
+    return own && isActive() ? *own : getPalette().text(isActive() ? kTextNormal : kTextDimmed);
 }
 
 void Button::drawLabel(const UIString& text, const BoxInt& box) const {
-    const std::optional<Colour>& own = textColours_[state_];
-    Colour ink = own && isActive() ? *own : getPalette().text(isActive() ? kTextNormal : kTextDimmed);
-    Glib::TextDescription t(box, text.getString(), getFont(), ink, Glib::kAlignCentreH);
+    Glib::TextDescription t(box, text.getString(), getFont(), textColour(), align_);
     t.ellipsize = true;
     CanvasRenderer(canvas()).render(t);
 }

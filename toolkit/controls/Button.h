@@ -4,6 +4,7 @@
 #include "Clickable.h"
 #include "core/WidgetCallback.h"
 #include "draw/FontDesc.h"
+#include "draw/GlibDescriptions.h"
 #include "image/iHostImage.h"
 #include "platform/UIString.h"
 
@@ -30,6 +31,10 @@ public:
     void setLabel(const UIString& label, eRedrawFlag flag = kRedraw);
     const UIString& getLabel() const { return label_; }
     void setCallback(const WidgetCallback& callback) { callback_ = callback; }
+    // The message a click sends, keeping the callback and payload.
+    void setMessage(const LightweightString<char>& message);
+    // The label without a redraw: for a subclass that sets it just before drawing it.
+    void setString(const UIString& label) { label_ = label; }
     const WidgetCallback& getCallback() const { return callback_; }
     // The first style word: kFlat shows the face only when hovered, pressed or
     // down; kFlatDropDown is flat too, for a button that drops a panel of its own.
@@ -56,6 +61,9 @@ public:
     virtual void switchState(button_state state, bool redraw);
     // The face's colour in a state, instead of the palette's shade for it.
     void setStateColour(button_state state, const Colour& colour);
+    // The face's colour in a state: the one set for it, else the window colour.
+    Colour getBackCol(button_state state) const;
+    Colour getBackCol() const { return getBackCol(state_); }
     // The face and label colours while up, and while down (latched or held down).
     void setCols(const Colour& face, const Colour& text);
     void setDownCols(const Colour& face, const Colour& text);
@@ -69,6 +77,13 @@ public:
     std::optional<ArrowGlyph::eDirection> getGlyph() const { return glyph_; }
     // Takes the width that shows the label and the icon or glyph; the height stays.
     void autoResize();
+    // A highlighted button is drawn as the one that stands out among its
+    // neighbours (the current one of a row); what that means is the subclass's.
+    void setHighlighted(bool highlighted) { highlighted_ = highlighted; }
+    bool isHighlighted() const { return highlighted_; }
+    // Where the label sits across the button; centred by default.
+    void setAlignment(Glib::eHorizontalAlign align) { align_ = align; }
+    Glib::eHorizontalAlign getAlignment() const { return align_; }
 
     // The size that shows `label` in `font` with the usual margins.
     static XY<int> calcSizeFor(const UIString& label, const Glib::FontDesc& font = {});
@@ -85,6 +100,10 @@ protected:
     BoxInt iconBox() const;
     bool hasPicture() const { return icon_ || glyph_; }
     void drawLabel(const UIString& text, const BoxInt& box) const;
+    // The label's colour in the present state.
+    virtual Colour textColour() const;
+    // Paints the label; drawBackground calls it after the face and the picture.
+    virtual void drawText();
 
 private:
     WidgetCallback callback_;
@@ -99,4 +118,6 @@ private:
     LightweightString<wchar_t> iconPath_;
     Zn::Ptr<iHostImage> icon_;
     std::optional<ArrowGlyph::eDirection> glyph_;
+    bool highlighted_ = false;
+    Glib::eHorizontalAlign align_ = Glib::kAlignCentreH;
 };

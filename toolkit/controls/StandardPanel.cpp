@@ -91,6 +91,17 @@ StandardPanel::StandardPanel(unsigned short width, unsigned short height) : Stan
 StandardPanel::StandardPanel(unsigned short width, unsigned short height, const Palette& palette, bool child, Canvas* canvas)
     : StandardPanel(InitArgs(GlobCreationInfo(width, height, palette, child, canvas), Border(Border::kNoBorder, 0, 15))) {}
 
+const char* StandardPanel::standardWidgetName(int bit) {
+    switch (bit) {
+    case kTitleBar: return "Title";
+    case kCloseBox: return "Poot";
+    case kPinButton: return "Pin";
+    case kCogsButton: return "Cogs";
+    case kDoItButton: return "DoIt";
+    default: return "";
+    }
+}
+
 StandardPanel::~StandardPanel() = default;
 
 // ---- border, title, furniture -----------------------------------------------

@@ -33,6 +33,9 @@ public:
         kTitleBar = 32,
         kResizeGrip = 0x80,
     };
+    // The word for one bit, as a menu of the furniture names it: "Title", "Poot",
+    // "Pin", "Cogs", "DoIt"; empty for any other number.
+    static const char* standardWidgetName(int bit);
     enum eSpacing { kCompact = 0, kNormal = 1, kSpacious = 2 };
     // The name of the message that a panel's main action sends.
     static constexpr const char* doItMsg = "doIt";

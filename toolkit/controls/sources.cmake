@@ -17,10 +17,12 @@ list(APPEND GLOBKIT_SOURCES
   controls/ImageView.cpp
   controls/LinkAwareMultiLineTextBox.cpp
   controls/Menu.cpp
+  controls/MenuData.cpp
   controls/MenuGlob.cpp
   controls/MenuItem.cpp
   controls/MenuItemIndex.cpp
   controls/Message.cpp
+  controls/MessageBase.cpp
   controls/MultiLineTextBox.cpp
   controls/NumericTextBox.cpp
   controls/PushButton.cpp

@@ -35,6 +35,10 @@ NormalisedRGB fromColour(const Colour& c) {
 
 std::uint32_t asARGB(const Colour& c) { return byteOf(c.alpha()) << 24 | byteOf(c.red()) << 16 | byteOf(c.green()) << 8 | byteOf(c.blue()); }
 
+std::uint32_t asARGB(const Colour& c, double opacity) {
+    return asARGB(Colour(c.red(), c.green(), c.blue(), c.alpha() * std::clamp(opacity, 0.0, 1.0)));
+}
+
 Colour colourFromARGB(std::uint32_t argb) {
     auto part = [argb](int shift) { return ((argb >> shift) & 0xFF) / 255.0; };
     return Colour(part(16), part(8), part(0), part(24));

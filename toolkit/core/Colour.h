@@ -33,4 +33,6 @@ Colour scale(const Colour& c, double factor);
 NormalisedRGB fromColour(const Colour& c);
 // 0xAARRGGBB, each component rounded to 8 bits.
 std::uint32_t asARGB(const Colour& c);
+// The same with the colour's alpha times `opacity` (clamped to 0..1).
+std::uint32_t asARGB(const Colour& c, double opacity);
 Colour colourFromARGB(std::uint32_t argb);

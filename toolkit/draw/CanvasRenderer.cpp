@@ -211,6 +211,20 @@ void CanvasRenderer::render(const Glib::EllipseDescription& e) const {
     noteModified(e.centre.x - rx - half - 1, e.centre.y - ry - half - 1, e.centre.x + rx + half + 1, e.centre.y + ry + half + 1);
 }
 
+namespace {
+// The Cairo row of the top of a line of text `height` pixels high whose baseline lies
+// `baseline` pixels below its top.
+int textTop(const Canvas& canvas, const Glib::TextDescription& t, int height, double baseline) {
+    const XY<int> o = canvas.origin();
+    const double boxTop = canvas.cairoY(o.y + t.box.y2);
+    if (t.baseline) return static_cast<int>(canvas.cairoY(o.y + *t.baseline)) - static_cast<int>(baseline);
+    const int spare = t.box.height() - height;
+    if (t.valign == Glib::kAlignTop) return static_cast<int>(boxTop);
+    if (t.valign == Glib::kAlignBottom) return static_cast<int>(boxTop) + spare;
+    return static_cast<int>(boxTop + std::floor(spare / 2.0));
+}
+} // namespace
+
 void CanvasRenderer::render(const Glib::TextDescription& t) const {
     if (!canvas_ || t.text.empty() || t.box.isEmpty()) return;
     cairo_t* cr = canvas_->context();
@@ -232,7 +246,7 @@ void CanvasRenderer::render(const Glib::TextDescription& t) const {
     if (t.align == Glib::kAlignRight) x += t.box.width() - size.x;
     // Whole pixels, so that a kept mask of the text is the text.
     const int left = static_cast<int>(std::round(x));
-    const int top = static_cast<int>(canvas_->cairoY(o.y + t.box.y2) + std::floor((t.box.height() - size.y) / 2.0));
+    const int top = textTop(*canvas_, t, size.y, fresh ? glyphs.baseline : shaped->baseline);
     cairo_save(cr);
     cairo_rectangle(cr, o.x + t.box.x1, canvas_->cairoY(o.y + t.box.y2), t.box.width(), t.box.height());
     cairo_clip(cr);

@@ -7,6 +7,8 @@
 #include "core/enumFromInt.h"
 #include "image/iImage.h"
 
+#include <optional>
+
 // Descriptions of the drawing primitives, in the coordinates of the glob being
 // drawn (bottom-up). CanvasRenderer turns them into pixels.
 namespace Glib {
@@ -88,8 +90,9 @@ struct TextAlignment {
     bool operator==(const TextAlignment&) const = default;
 };
 
-/// One line of text inside a box: aligned horizontally as `align` says, centred
-/// vertically, cut off at the box's edges.
+/// One line of text inside a box: aligned horizontally as `align` says and
+/// vertically as `valign` says, or with its baseline on `baseline` (the glob's y)
+/// when that is given; cut off at the box's edges.
 struct TextDescription {
     BoxInt box;
     LightweightString<wchar_t> text;
@@ -98,6 +101,8 @@ struct TextDescription {
     eHorizontalAlign align = kAlignLeft;
     // Shorten text that does not fit with an ellipsis instead of cutting it.
     bool ellipsize = false;
+    eVerticalAlign valign = kAlignMiddle;
+    std::optional<int> baseline;
 
     TextDescription() = default;
     TextDescription(const BoxInt& b, const LightweightString<wchar_t>& t, const FontDesc& f, const Colour& c, eHorizontalAlign a = kAlignLeft)

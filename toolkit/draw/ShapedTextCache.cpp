@@ -22,6 +22,7 @@ ShapedTextCache::Shaped ShapedTextCache::shape(const LightweightString<char>& ut
         pango_layout_set_ellipsize(s.layout.get(), PANGO_ELLIPSIZE_END);
     }
     pango_layout_get_pixel_extents(s.layout.get(), nullptr, &s.logical);
+    s.baseline = static_cast<double>(pango_layout_get_baseline(s.layout.get())) / PANGO_SCALE;
     return s;
 }
 
@@ -45,6 +46,7 @@ ShapedTextCache::Shaped& ShapedTextCache::keep(std::string key, const TextAdvanc
     s.glyphs = line.glyphs;
     for (cairo_glyph_t& g : s.glyphs) g.y += line.baseline;
     s.logical = {0, 0, line.size.x, line.size.y};
+    s.baseline = line.baseline;
     return cache_.insert(std::move(key), std::move(s));
 }
 

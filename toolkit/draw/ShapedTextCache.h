@@ -25,6 +25,7 @@ public:
         std::unique_ptr<PangoLayout, void (*)(gpointer)> layout{nullptr, g_object_unref};
         std::unique_ptr<cairo_scaled_font_t, void (*)(cairo_scaled_font_t*)> font{nullptr, cairo_scaled_font_destroy};
         std::vector<cairo_glyph_t> glyphs; // placed from the top left of the line
+        double baseline = 0;               // pixels below the top of the line
         PangoRectangle logical{};          // in pixels
         // The coverage of the painted text, made on its first paint, and where its
         // top left lies from the layout's origin.

@@ -243,7 +243,11 @@ void Glob::resize(double width, double height) {
 
 void Glob::handleChildResize(const Glob*, const XY<int>&) { calcAbsoluteWidgetPositions(); }
 
-XY<int> Glob::sizeConstrain(const XY<int>& s) const { return {std::max({0, minSize_.x, s.x}), std::max({0, minSize_.y, s.y})}; }
+XY<int> Glob::sizeConstrain(const XY<int>& s) const {
+    XY<int> out = s;
+    if (maxSize_) out = {std::min(out.x, maxSize_->x), std::min(out.y, maxSize_->y)};
+    return {std::max({0, minSize_.x, out.x}), std::max({0, minSize_.y, out.y})};
+}
 
 XY<int> Glob::realPositionConstrain(const XY<int>& pos) const {
     return GlobManager::instance().getSafePosForGlob(canvas_, positionConstrain(pos), size());
@@ -369,7 +373,16 @@ void Glob::addSurround(const Colour& colour, unsigned long width, float opacity,
     redraw();
 }
 
+void Glob::addShadow() {
+    shadow_ = true;
+    GlobManager::instance().screenChanged();
+}
+
 void Glob::removeSurround() {
+    if (shadow_) {
+        shadow_ = false;
+        GlobManager::instance().screenChanged();
+    }
     if (!hasSurround()) return;
     surround_ = Surround();
     // What the surround covered belongs to the parent.

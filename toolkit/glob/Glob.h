@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class Canvas;
@@ -108,6 +109,9 @@ public:
     void reshapeAndDraw(const XY<int>& size);
     virtual void setMinSize(unsigned short w, unsigned short h);
     virtual XY<int> getMinSize() const { return minSize_; }
+    // The largest size resizing gives; none set means no limit.
+    void setMaxSize(const std::optional<XY<int>>& size) { maxSize_ = size; }
+    virtual std::optional<XY<int>> getMaxSize() const { return maxSize_; }
     int oldWidth() const { return oldSize_.x; }
     int oldHeight() const { return oldSize_.y; }
     // Hooks that may adjust a size or a top-level position before it is applied.
@@ -153,6 +157,10 @@ public:
     // A lightweight glob takes no mouse input of its own: the glob below it does.
     void setLightweight(bool l) { lightweight_ = l; }
     bool isLightweight() const { return lightweight_; }
+    // A top-level glob that passes input lets the mouse through to what lies
+    // beneath it: an overlay that only shows something.
+    void setPassesInput(bool passes) { passesInput_ = passes; }
+    bool passesInput() const { return passesInput_; }
     void setIndestructible(bool i) { indestructible_ = i; }
     bool isIndestructible() const { return indestructible_; }
     virtual bool canBeDestroyed(int) const { return !indestructible_; }
@@ -162,8 +170,9 @@ public:
     virtual MouseCursorID contextCursor(const XY<int>&) const { return cursor_; }
     XY<int> getHotSpot() const { return hotSpot_; }
     void setHotSpot(const XY<int>& p) { hotSpot_ = p; }
-    // A drop shadow under a top-level glob, and a coloured frame drawn around any glob.
-    void addShadow() { shadow_ = true; }
+    // A drop shadow under a top-level glob, and a coloured frame drawn around any
+    // glob; removeSurround takes away both.
+    void addShadow();
     bool hasShadow() const { return shadow_; }
     void addSurround(const Colour& colour, unsigned long width = 2, float opacity = 1.0f, unsigned int sides = 15);
     void removeSurround();
@@ -278,6 +287,7 @@ private:
     Palette palette_;
     int x_ = 0, y_ = 0, w_ = 0, h_ = 0;
     XY<int> minSize_;
+    std::optional<XY<int>> maxSize_;
     XY<int> hotSpot_;
     UIString tooltip_, contextExtra_;
     MouseCursorID cursor_ = kCursorArrow;
@@ -285,6 +295,7 @@ private:
     bool visible_ = true;
     bool active_ = true;
     bool lightweight_ = false;
+    bool passesInput_ = false;
     bool indestructible_ = false;
     bool movable_ = false;
     bool resizable_ = false;

@@ -131,6 +131,15 @@ void GlobManager::forgetRoot(Glob* g) {
     screenChanged();
 }
 
+Glob* GlobManager::globAt(const XY<int>& screen, const Glob* beneath) const {
+    for (auto it = roots_.rbegin(); it != roots_.rend(); ++it) {
+        Glob* root = *it;
+        if (root == beneath || !root->isVisible() || root->passesInput() || !root->box().contains(screen)) continue;
+        return root->findGlobAt(screen - XY<int>(root->getX(), root->getY()));
+    }
+    return nullptr;
+}
+
 Glob* GlobManager::find(const IdStamp& stamp) const {
     Glob* found = nullptr;
     for (Glob* r : roots_) {

@@ -42,6 +42,10 @@ public:
     Glob* find(const IdStamp& stamp) const;
     // The first glob, in z-order from the top, whose name (or, failing that, idstring) matches.
     Glob* find(const LightweightString<char>& name) const;
+    // The deepest visible glob at a screen point, in the topmost panel there, passing
+    // over the panel `beneath` (a tool looking at what lies under itself); null
+    // where no panel is.
+    Glob* globAt(const XY<int>& screen, const Glob* beneath = nullptr) const;
 
     // Modal globs: while one is up, input goes only to it and its tree (and to
     // globs raised above it, such as its menus).

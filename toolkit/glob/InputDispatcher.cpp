@@ -106,7 +106,7 @@ Glob* InputDispatcher::targetForMouse(const Event& e) const {
     Glob* modal = gm.topModal();
     for (auto it = roots.rbegin(); it != roots.rend(); ++it) {
         Glob* root = *it;
-        if (!root->isVisible()) continue;
+        if (!root->isVisible() || root->passesInput()) continue;
         if (root->box().contains(e.screenPos())) return root->findGlobAt(e.screenPos() - XY<int>(root->getX(), root->getY()));
         // Nothing below a modal glob takes the mouse.
         if (root == modal) return nullptr;

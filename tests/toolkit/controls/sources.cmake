@@ -10,6 +10,7 @@ list(APPEND GLOBKIT_TEST_SOURCES
   toolkit/controls/FileBrowserTest.cpp
   toolkit/controls/GaugeTest.cpp
   toolkit/controls/ImageButtonTest.cpp
+  toolkit/controls/MenuDataTest.cpp
   toolkit/controls/MenuItemTest.cpp
   toolkit/controls/MenuTest.cpp
   toolkit/controls/MessageTest.cpp

@@ -1,0 +1,6 @@
+list(APPEND MOSAIC_SOURCES
+  inspector/GlobInspector.cpp
+  inspector/GlobTreePanel.cpp
+  inspector/InfoWidget.cpp
+  inspector/SelectionRectangle.cpp
+)

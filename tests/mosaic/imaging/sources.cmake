@@ -1,0 +1,4 @@
+list(APPEND MOSAIC_TEST_SOURCES
+  mosaic/imaging/SmallWidgetsTest.cpp
+  mosaic/imaging/TrackButtonTest.cpp
+)

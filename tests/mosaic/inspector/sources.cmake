@@ -1,0 +1,3 @@
+list(APPEND MOSAIC_TEST_SOURCES
+  mosaic/inspector/GlobInspectorTest.cpp
+)
