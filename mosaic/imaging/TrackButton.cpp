@@ -186,12 +186,12 @@ void TrackButton::drawBackground() {
     drawText();
 }
 
-void TrackButton::drawGlow(int glowWidth, int glowHeight, int offset) {
+Zn::Ptr<iHostImage> TrackButton::glowImage(int glowWidth, int glowHeight) {
+    const Colour back = getBackCol();
+    if (glow_ && glow_->width() == glowWidth && glow_->height() == glowHeight && glowMadeOn_ == back && glowMadeOf_ == glowColour_) return glow_;
     const int hw = glowWidth >> 1, hh = glowHeight >> 1;
-    if (hw <= 0 || hh <= 0) return;
     auto image = Zn::Ptr<iHostImage>(new HostImage(glowWidth, glowHeight));
     std::uint8_t* px = image->data();
-    const Colour back = getBackCol();
     for (int row = 0; row < glowHeight; ++row) {
         auto* line = reinterpret_cast<std::uint32_t*>(px + static_cast<std::ptrdiff_t>(row) * image->stride());
         const double across = 1.0 - std::abs(static_cast<double>(row - hh) / hh);
@@ -200,6 +200,15 @@ void TrackButton::drawGlow(int glowWidth, int glowHeight, int offset) {
             line[col] = asARGB(Colour::mix(back, glowColour_, strength), 1.0);
         }
     }
+    glow_ = image;
+    glowMadeOn_ = back;
+    glowMadeOf_ = glowColour_;
+    return glow_;
+}
+
+void TrackButton::drawGlow(int glowWidth, int glowHeight, int offset) {
+    if ((glowWidth >> 1) <= 0 || (glowHeight >> 1) <= 0) return;
+    const Zn::Ptr<iHostImage> image = glowImage(glowWidth, glowHeight);
     CanvasRenderer r(canvas());
     const int x = (width() - glowWidth) / 2;
     for (int i = 0; i < static_cast<int>(names_.size()); ++i) {

@@ -72,6 +72,8 @@ protected:
 private:
     void init();
     void drawGlow(int glowWidth, int glowHeight, int offset);
+    // The glow's picture, made again only when its size or colours change.
+    Zn::Ptr<iHostImage> glowImage(int glowWidth, int glowHeight);
 
     std::vector<LightweightString<wchar_t>> names_;
     Colour glowColour_;
@@ -80,4 +82,6 @@ private:
     bool mouseInside_ = false;
     // The size the names are shown at when a line is tall enough.
     int fontSize_ = 0;
+    Zn::Ptr<iHostImage> glow_;
+    Colour glowMadeOn_, glowMadeOf_;
 };
