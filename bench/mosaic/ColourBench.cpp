@@ -2,6 +2,7 @@
 // painting a wheel whose picture is kept; one drag event on the wheel through to
 // the last bound text box repainted; and a drop-down of a 20-control panel opened
 // and painted.
+#include "BenchHost.h"
 #include "colour/ColourComponentAdaptor.h"
 #include "colour/ComponentTextBox.h"
 #include "colour/HSColourWheel.h"
@@ -16,15 +17,6 @@
 
 namespace {
 
-StandardPanel* makeHost(int w, int h) {
-    StandardPanel::InitArgs args(static_cast<unsigned short>(w), static_cast<unsigned short>(h));
-    args.palette = UifStd::instance().getColourScheme();
-    auto* p = new StandardPanel(args);
-    p->setupRootPos({100, 100});
-    GlobManager::instance().realize(p);
-    return p;
-}
-
 HSColourWheel* addWheel(StandardPanel* host) {
     const unsigned short side = static_cast<unsigned short>(200 + 2 * UifStd::instance().getWidgetGap());
     HSColourWheel::InitArgs args(side, side);
@@ -32,7 +24,7 @@ HSColourWheel* addWheel(StandardPanel* host) {
 }
 
 void BM_WheelPictureFromNothing(benchmark::State& state) {
-    StandardPanel* host = makeHost(300, 300);
+    StandardPanel* host = makeBenchHost(300, 300);
     HSColourWheel* wheel = addWheel(host);
     const Colour face = wheel->getCol();
     for (auto _ : state) {
@@ -45,7 +37,7 @@ void BM_WheelPictureFromNothing(benchmark::State& state) {
 BENCHMARK(BM_WheelPictureFromNothing)->Unit(benchmark::kMicrosecond);
 
 void BM_WheelPaintedFromItsPicture(benchmark::State& state) {
-    StandardPanel* host = makeHost(300, 300);
+    StandardPanel* host = makeBenchHost(300, 300);
     HSColourWheel* wheel = addWheel(host);
     wheel->drawBackground();
     for (auto _ : state) wheel->drawBackground();
@@ -54,7 +46,7 @@ void BM_WheelPaintedFromItsPicture(benchmark::State& state) {
 BENCHMARK(BM_WheelPaintedFromItsPicture)->Unit(benchmark::kMicrosecond);
 
 void BM_WheelDragToBoundTexts(benchmark::State& state) {
-    StandardPanel* host = makeHost(600, 300);
+    StandardPanel* host = makeBenchHost(600, 300);
     HSColourWheel* wheel = addWheel(host);
     ValServer<ColourData> colour(ColourData(0.0, 0.0, 1.0, kColourSpaceHSV, 1.0));
     wheel->setDataAdaptor(Zn::Ptr<ValAdaptorBase<ColourData>>(new ValAdaptor<ColourData, ColourData>(&colour)));
@@ -100,7 +92,7 @@ public:
 };
 
 void BM_DropDownOfTwentyControls(benchmark::State& state) {
-    StandardPanel* host = makeHost(300, 100);
+    StandardPanel* host = makeBenchHost(300, 100);
     host->setupRootPos({100, 700});
     using Drop = DropDownButtonEx<TwentyControls>;
     const int row = UifStd::instance().getRowHeight();

@@ -2,6 +2,7 @@
 // button and painted, first paint included; one magnifier frame (grab, enlarge,
 // paint) at two levels; a small grab off an up-to-date screen, and the mean of the
 // whole screen.
+#include "BenchHost.h"
 #include "colour/ColEyeDropBase.h"
 #include "colour/DropDownColourPickerButton.h"
 #include "colour/MagnifyTool.h"
@@ -14,17 +15,8 @@
 
 namespace {
 
-StandardPanel* makeHost(int w, int h) {
-    StandardPanel::InitArgs args(static_cast<unsigned short>(w), static_cast<unsigned short>(h));
-    args.palette = UifStd::instance().getColourScheme();
-    auto* p = new StandardPanel(args);
-    p->setupRootPos({100, 100});
-    GlobManager::instance().realize(p);
-    return p;
-}
-
 void BM_PickerDroppedFromSwatchAndPainted(benchmark::State& state) {
-    StandardPanel* host = makeHost(200, 100);
+    StandardPanel* host = makeBenchHost(200, 100);
     DropDownColourPickerButton::InitArgs args(24, 24);
     auto* button = host->createWidget<DropDownColourPickerButton>(args, Glob::BottomLeft(10, 10));
     GlobManager::instance().runUntilIdle();
@@ -41,7 +33,7 @@ void BM_PickerDroppedFromSwatchAndPainted(benchmark::State& state) {
 BENCHMARK(BM_PickerDroppedFromSwatchAndPainted)->Unit(benchmark::kMillisecond);
 
 void BM_MagnifierFrame(benchmark::State& state) {
-    StandardPanel* host = makeHost(400, 400);
+    StandardPanel* host = makeBenchHost(400, 400);
     MagnifyTool::InitArgs args(MagnifyTool::kToolWindow, static_cast<int>(state.range(0)));
     args.width = 200;
     args.height = 220;
@@ -59,7 +51,7 @@ void BM_MagnifierFrame(benchmark::State& state) {
 BENCHMARK(BM_MagnifierFrame)->Arg(2)->Arg(8)->Unit(benchmark::kMicrosecond);
 
 void BM_GrabFromUpToDateScreen(benchmark::State& state) {
-    StandardPanel* host = makeHost(400, 400);
+    StandardPanel* host = makeBenchHost(400, 400);
     GlobManager::instance().runUntilIdle();
     for (auto _ : state) benchmark::DoNotOptimize(glib_getScreenRect(BoxInt(200, 200, 217, 217)));
     delete host;
@@ -67,7 +59,7 @@ void BM_GrabFromUpToDateScreen(benchmark::State& state) {
 BENCHMARK(BM_GrabFromUpToDateScreen)->Unit(benchmark::kMicrosecond);
 
 void BM_MeanOfWholeScreen(benchmark::State& state) {
-    StandardPanel* host = makeHost(400, 400);
+    StandardPanel* host = makeBenchHost(400, 400);
     GlobManager::instance().runUntilIdle();
     const Screen& s = GlobManager::instance().screen();
     for (auto _ : state)

@@ -1,5 +1,6 @@
 // The track and inspector widgets' hot paths: 50 track buttons with their glow
 // repainted, and the glob tree tool opened over a tree of 5,000 globs.
+#include "BenchHost.h"
 #include "controls/StandardPanel.h"
 #include "draw/UifStd.h"
 #include "glob/GlobManager.h"
@@ -12,17 +13,9 @@
 
 namespace {
 
-StandardPanel* panel(int w, int h) {
-    StandardPanel::InitArgs args(static_cast<unsigned short>(w), static_cast<unsigned short>(h));
-    args.palette = UifStd::instance().getColourScheme();
-    auto* p = new StandardPanel(args);
-    p->setupRootPos({100, 100});
-    return p;
-}
-
 void BM_RepaintFiftyGlowingTrackButtons(benchmark::State& state) {
     const int row = UifStd::instance().getRowHeight();
-    StandardPanel* p = panel(200, 50 * row);
+    StandardPanel* p = makeBenchHost(200, 50 * row, false);
     for (int i = 0; i < 50; ++i) {
         TrackButton::InitArgs args({}, {}, 200, static_cast<unsigned short>(row));
         auto* t = p->createWidget<TrackButton>(args, Glob::UserTopLeft(0, i * row));
@@ -40,7 +33,7 @@ void BM_RepaintFiftyGlowingTrackButtons(benchmark::State& state) {
 BENCHMARK(BM_RepaintFiftyGlowingTrackButtons)->Unit(benchmark::kMicrosecond);
 
 void BM_OpenGlobTreeOnFiveThousandGlobs(benchmark::State& state) {
-    StandardPanel* p = panel(400, 400);
+    StandardPanel* p = makeBenchHost(400, 400, false);
     for (int i = 0; i < 50; ++i) {
         StandardPanel::InitArgs group(40, 40);
         auto* g = p->createWidget<StandardPanel>(group, Glob::BottomLeft(i % 10 * 40, i / 10 * 40));
