@@ -24,6 +24,8 @@
 #include "panels/DropDownButtonEx.h"
 #include "value/ValAdaptor.h"
 
+#include <algorithm>
+
 namespace {
 
 using TextAdaptor = Zn::Ptr<ValAdaptorBase<LightweightString<wchar_t>>>;
@@ -89,8 +91,9 @@ void buildPicker(XY<int> at) {
     const int gap = u.getWidgetGap(), row = u.getRowHeight();
     const unsigned int flags = ColourPicker::kRGBParts | ColourPicker::kAlphaGroup;
     const XY<int> pickerSize = ColourPicker::calcSize(flags);
-    auto* p = GalleryScene::makePanel<PickerPanel>(pickerSize.x + 2 * gap + 4 * row, pickerSize.y + 3 * row + u.getTitleHeight() + 4 * gap,
-                                                   L"Colour picker", at);
+    // Wide enough for the picker and its swatch button, and for the dropper and its six swatches.
+    const int width = std::max(pickerSize.x + 2 * gap + 4 * row, 7 * (2 * row + gap) + 2 * gap);
+    auto* p = GalleryScene::makePanel<PickerPanel>(width, pickerSize.y + 3 * row + u.getTitleHeight() + 4 * gap, L"Colour picker", at);
     ColourPicker::InitArgs pickerArgs(flags, ColourData(30.0, 0.8, 0.9, kColourSpaceHSV, 0.75));
     pickerArgs.width = static_cast<unsigned short>(pickerSize.x);
     pickerArgs.height = static_cast<unsigned short>(pickerSize.y);
